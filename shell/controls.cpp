@@ -1,0 +1,171 @@
+#include "shell/controls.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "shell/errors.h"
+#include "shell/form.h"
+#include "shell/program.h"
+#include "shell/text.h"
+
+namespace orv {
+
+Control::Control(Form& form, const ControlSpec& spec)
+    : form_(&form),
+      kind_(spec.kind),
+      name_(spec.name),
+      index_(spec.index),
+      rect_(spec.rect),
+      container_(spec.container),
+      flags_(spec.flags),
+      filter_(spec.filter),
+      shortcut_(spec.shortcut),
+      text_(spec.caption),
+      toolTip_(spec.toolTip),
+      enabled_((spec.flags & kDisabled) == 0),
+      visible_((spec.flags & kHidden) == 0),
+      isDefault_((spec.flags & kDefault) != 0),
+      isCancel_((spec.flags & kCancel) != 0) {}
+
+std::string Control::key() const {
+  if (index_ < 0) return name_;
+  return name_ + "(" + std::to_string(index_) + ")";
+}
+
+void Control::Notify(Prop p) { form_->NotifyControl(*this, p); }
+
+void Control::SetText(std::string text) {
+  if (text == text_) return;
+  text_ = std::move(text);
+  if (kind_ == Kind::TextBox || kind_ == Kind::RichText) {
+    // Writing a box's text puts the caret at its start, as a fresh text has.
+    selStart_ = 0;
+    selLength_ = 0;
+    Notify(Prop::Text);
+    form_->Fire(this, Ev::Change);
+  } else {
+    Notify(Prop::Text);
+  }
+}
+
+void Control::SetTextQuiet(std::string text) {
+  text_ = std::move(text);
+  Notify(Prop::Text);
+}
+
+void Control::SetEnabled(bool on) {
+  if (on == enabled_) return;
+  enabled_ = on;
+  Notify(Prop::Enabled);
+}
+
+void Control::SetVisible(bool on) {
+  if (on == visible_) return;
+  visible_ = on;
+  Notify(Prop::Visible);
+}
+
+void Control::SetToolTip(std::string tip) {
+  if (tip == toolTip_) return;
+  toolTip_ = std::move(tip);
+  Notify(Prop::ToolTip);
+}
+
+void Control::SelectOption(bool runClick) {
+  for (const auto& other : form_->controls()) {
+    if (other.get() != this && other->kind_ == Kind::Option && other->container_ == container_ && other->value_) {
+      other->value_ = false;
+      other->Notify(Prop::Value);
+    }
+  }
+  value_ = true;
+  Notify(Prop::Value);
+  if (runClick) form_->Fire(this, Ev::Click);
+}
+
+void Control::SetValue(bool on) {
+  if (kind_ == Kind::Option) {
+    if (on) {
+      if (!value_) SelectOption(true);
+    } else if (value_) {
+      value_ = false;
+      Notify(Prop::Value);
+    }
+    return;
+  }
+  if (on == value_) return;
+  value_ = on;
+  Notify(Prop::Value);
+  if (kind_ == Kind::CheckBox) form_->Fire(this, Ev::Click);
+}
+
+void Control::SetDefault(bool on) {
+  if (on) {
+    for (const auto& other : form_->controls()) {
+      if (other.get() != this && other->isDefault_) {
+        other->isDefault_ = false;
+        other->Notify(Prop::Role);
+      }
+    }
+  }
+  if (on == isDefault_) return;
+  isDefault_ = on;
+  Notify(Prop::Role);
+}
+
+void Control::SetFocus() { form_->SetActive(this); }
+
+bool Control::HasFocus() const { return form_->ActiveControl() == this; }
+
+void Control::SetSelection(int start, int length) {
+  const int n = CharCount(text_);
+  start = std::clamp(start, 0, n);
+  length = std::clamp(length, 0, n - start);
+  if (start == selStart_ && length == selLength_) return;
+  selStart_ = start;
+  selLength_ = length;
+  Notify(Prop::Selection);
+}
+
+void Control::AddItem(std::string item) {
+  list_.push_back(std::move(item));
+  Notify(Prop::List);
+}
+
+void Control::RemoveItem(int row) {
+  if (row < 0 || row >= ListCount()) Raise(ErrorCode::InvalidProcedureCall);
+  list_.erase(list_.begin() + row);
+  if (listIndex_ >= ListCount()) listIndex_ = -1;
+  Notify(Prop::List);
+}
+
+void Control::Clear() {
+  list_.clear();
+  listIndex_ = -1;
+  Notify(Prop::List);
+}
+
+const std::string& Control::List(int row) const {
+  static const std::string kEmpty;
+  if (row < 0 || row >= ListCount()) return kEmpty;
+  return list_[static_cast<std::size_t>(row)];
+}
+
+void Control::SetListIndex(int row) {
+  if (row < -1 || row >= ListCount()) Raise(ErrorCode::InvalidProcedureCall);
+  if (row == listIndex_) return;
+  listIndex_ = row;
+  Notify(Prop::ListIndex);
+  form_->Fire(this, Ev::Click);
+}
+
+bool Control::TakesInput() const {
+  if (!enabled_ || !visible_ || !form_->Visible()) return false;
+  if (!container_.empty()) {
+    const Control* frame = form_->find(container_);
+    if (frame != nullptr && !frame->TakesInput()) return false;
+  }
+  return true;
+}
+
+}  // namespace orv

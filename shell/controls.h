@@ -1,0 +1,169 @@
+#pragma once
+// The control model: what a screen's logic reads and writes. A control is a
+// plain record of properties; writing a property tells the view (if any) and
+// raises the events that the write implies (a text box's Change, an option
+// button's Click). No toolkit code lives here.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orv {
+
+class Form;
+
+enum class Kind {
+  TextBox,
+  Label,
+  Button,
+  Option,
+  CheckBox,
+  Frame,
+  ListBox,
+  Menu,
+  Image,
+  RichText,
+  Picture,
+  Chart,
+  Tree,
+};
+
+struct Rect {
+  int x = 0;
+  int y = 0;
+  int w = 0;
+  int h = 0;
+};
+
+// Design-time flags of a control.
+enum Flag : unsigned {
+  kDefault = 1u << 0,     // the screen's default button (Enter)
+  kCancel = 1u << 1,      // the screen's cancel button (Esc)
+  kDisabled = 1u << 2,    // starts disabled
+  kHidden = 1u << 3,      // starts hidden
+  kMultiLine = 1u << 4,   // text box with several lines
+  kFixedPitch = 1u << 5,  // fixed-pitch font (lists of padded rows)
+  kBold = 1u << 6,        // bold caption
+  kLarge = 1u << 7,       // large caption (titles)
+  kRightAlign = 1u << 8,  // text aligned right
+  kCenter = 1u << 9,      // text centred
+  kBorder = 1u << 10,     // label with a sunken border (result labels)
+  kSmall = 1u << 11,      // small caption
+};
+
+class KeyFilter;
+
+// One row of a screen's control table.
+struct ControlSpec {
+  Kind kind;
+  std::string_view name;
+  std::string_view caption = {};  // text of a box, caption of anything else
+  Rect rect = {};                 // logical pixels, relative to the container
+  std::string_view toolTip = {};
+  std::string_view container = {};  // frame that holds the control, if any
+  int index = -1;                   // member of a control array, or -1
+  unsigned flags = 0;
+  const KeyFilter* filter = nullptr;  // key filter of a text box
+  std::string_view shortcut = {};     // menu entries: "Ctrl+X"
+};
+
+// Properties that a view mirrors.
+enum class Prop { Text, Enabled, Visible, Value, ToolTip, List, ListIndex, Selection, Role, Content };
+
+class Control {
+ public:
+  Control(Form& form, const ControlSpec& spec);
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  Form& form() const { return *form_; }
+  Kind kind() const { return kind_; }
+  const std::string& name() const { return name_; }
+  int index() const { return index_; }
+  // "Text1" or "Text1(3)" for a member of a control array.
+  std::string key() const;
+  const Rect& rect() const { return rect_; }
+  const std::string& container() const { return container_; }
+  unsigned flags() const { return flags_; }
+  const KeyFilter* filter() const { return filter_; }
+  const std::string& shortcut() const { return shortcut_; }
+
+  // Text of a box, caption of everything else. Writing a box's text raises
+  // its Change event when the text differs.
+  const std::string& Text() const { return text_; }
+  void SetText(std::string text);
+  const std::string& Caption() const { return text_; }
+  void SetCaption(std::string text) { SetText(std::move(text)); }
+
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool on);
+  bool Visible() const { return visible_; }
+  void SetVisible(bool on);
+  const std::string& ToolTip() const { return toolTip_; }
+  void SetToolTip(std::string tip);
+
+  // Option buttons and check boxes. Selecting an option button from code
+  // runs its Click when it was not selected and clears the other option
+  // buttons of its container; a check box runs its Click when it changes.
+  bool Value() const { return value_; }
+  void SetValue(bool on);
+
+  bool IsDefault() const { return isDefault_; }
+  void SetDefault(bool on);
+  bool IsCancel() const { return isCancel_; }
+
+  void SetFocus();
+  bool HasFocus() const;
+
+  // Caret and selection of a text box, in characters.
+  int SelStart() const { return selStart_; }
+  int SelLength() const { return selLength_; }
+  void SetSelection(int start, int length);
+
+  // List boxes. Setting the list index from code runs the Click when it
+  // changes, as a user's selection does.
+  void AddItem(std::string item);
+  void RemoveItem(int row);
+  void Clear();
+  int ListCount() const { return static_cast<int>(list_.size()); }
+  const std::string& List(int row) const;
+  const std::vector<std::string>& Items() const { return list_; }
+  int ListIndex() const { return listIndex_; }
+  void SetListIndex(int row);
+
+  // Whether the user can reach the control: it, its container and its
+  // screen are enabled and visible.
+  bool TakesInput() const;
+
+  // Called by the runtime on a user's edit: sets the text and caret without
+  // a Change event (the caller raises it).
+  void SetTextQuiet(std::string text);
+
+ private:
+  void Notify(Prop p);
+  void SelectOption(bool runClick);
+
+  Form* form_;
+  Kind kind_;
+  std::string name_;
+  int index_;
+  Rect rect_;
+  std::string container_;
+  unsigned flags_;
+  const KeyFilter* filter_;
+  std::string shortcut_;
+
+  std::string text_;
+  std::string toolTip_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  bool value_ = false;
+  bool isDefault_ = false;
+  bool isCancel_ = false;
+  int selStart_ = 0;
+  int selLength_ = 0;
+  std::vector<std::string> list_;
+  int listIndex_ = -1;
+};
+
+}  // namespace orv

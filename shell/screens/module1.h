@@ -1,0 +1,19 @@
+#pragma once
+// Start-up: shows the main screen and the splash above it, then opens the
+// database beside the executable.
+
+#include "data/store.h"
+#include "shell/program.h"
+
+namespace orv {
+
+// The program's start-up routine.
+void Main(Program& program);
+
+// Opens the database read-only; on failure shows why and returns false.
+bool OpenDataStore(Program& program);
+
+// The program-wide data objects of this run.
+inline data::DataStore& Store(Program& program) { return program.Module<data::DataStore>(); }
+
+}  // namespace orv
