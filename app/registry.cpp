@@ -1,26 +1,23 @@
 #include "app/registry.h"
 
-#include "general/frmSigfig.h"
-#include "shell/screens/frmMain.h"
-#include "shell/screens/frmSplash.h"
 #include "shell/screens/module1.h"
 
 namespace orv {
 
-namespace {
-template <class T>
-ScreenRegistry::Factory Make() {
-  return [](Program& p) -> std::unique_ptr<Form> { return std::make_unique<T>(p); };
-}
+// Each subsystem registers the screens it has built.
+void RegisterShellScreens(ScreenRegistry& r);
+void RegisterGeneralScreens(ScreenRegistry& r);
+void RegisterAtomScreens(ScreenRegistry& r);
+void RegisterFormulaScreens(ScreenRegistry& r);
 
+namespace {
 ScreenRegistry Build() {
   ScreenRegistry r;
   r.main = &Main;
-  r.screens = {
-      {"frmMain", Make<frmMain>()},
-      {"frmSplash", Make<frmSplash>()},
-      {"frmSigfig", Make<frmSigfig>()},
-  };
+  RegisterShellScreens(r);
+  RegisterGeneralScreens(r);
+  RegisterAtomScreens(r);
+  RegisterFormulaScreens(r);
   return r;
 }
 }  // namespace

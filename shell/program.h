@@ -22,6 +22,12 @@ struct ScreenRegistry {
   using Factory = std::function<std::unique_ptr<Form>(Program&)>;
   std::map<std::string, Factory, std::less<>> screens;
   std::function<void(Program&)> main;
+
+  // Registers screen class T under its name.
+  template <class T>
+  void Add(std::string name) {
+    screens[std::move(name)] = [](Program& p) -> std::unique_ptr<Form> { return std::make_unique<T>(p); };
+  }
 };
 
 // Key codes the runtime knows by name.

@@ -1,0 +1,7 @@
+#include "shell/program.h"
+
+namespace orv {
+
+void RegisterFormulaScreens(ScreenRegistry& /*r*/) {}
+
+}  // namespace orv

@@ -1,0 +1,8 @@
+#include "general/frmSigfig.h"
+#include "shell/program.h"
+
+namespace orv {
+
+void RegisterGeneralScreens(ScreenRegistry& r) { r.Add<frmSigfig>("frmSigfig"); }
+
+}  // namespace orv

@@ -1,0 +1,12 @@
+#include "shell/program.h"
+#include "shell/screens/frmMain.h"
+#include "shell/screens/frmSplash.h"
+
+namespace orv {
+
+void RegisterShellScreens(ScreenRegistry& r) {
+  r.Add<frmMain>("frmMain");
+  r.Add<frmSplash>("frmSplash");
+}
+
+}  // namespace orv
