@@ -23,6 +23,8 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include "qtui/picture_widget.h"
+#include "shell/picture.h"
 #include "shell/text.h"
 
 namespace orv::qt {
@@ -143,10 +145,9 @@ Key ToKey(const QKeyEvent& e) {
     k.code = kKeyF1 + (q - Qt::Key_F1);
     return k;
   }
-  if ((q >= Qt::Key_A && q <= Qt::Key_Z) || (q >= Qt::Key_0 && q <= Qt::Key_9)) k.code = q;
   const QString text = e.text();
   if (!text.isEmpty() && text.at(0).unicode() != 127) k.ascii = text.at(0).unicode();
-  if (k.code == 0) k.code = k.ascii;
+  k.code = (q >= Qt::Key_A && q <= Qt::Key_Z) ? q : KeyCodeOfChar(k.ascii);
   return k;
 }
 
@@ -305,6 +306,10 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
         w = list;
         break;
       }
+      case Kind::Picture: {
+        w = new PictureWidget(parent);
+        break;
+      }
       case Kind::Image: {
         auto* image = new Emblem(parent);
         image->installEventFilter(this);
@@ -348,7 +353,19 @@ void QtView::FormLoaded(Form& form) {
 void QtView::FormUnloaded(Form& form) {
   auto it = forms_.find(&form);
   if (it == forms_.end()) return;
+  // Events still queued for these widgets must not reach the screen's model.
+  for (auto& [control, widget] : it->second.widgets) {
+    if (!widget.isNull()) widget->setProperty(kControlProperty, QVariant());
+  }
   if (QWidget* w = it->second.window.data()) {
+    w->setProperty(kFormProperty, QVariant());
+    for (QAction* a : w->findChildren<QAction*>()) {
+      a->setProperty(kControlProperty, QVariant());
+      a->disconnect(this);
+    }
+    for (auto& [control, widget] : it->second.widgets) {
+      if (!widget.isNull()) widget->disconnect(this);
+    }
     w->hide();
     w->removeEventFilter(this);
     w->deleteLater();
@@ -436,6 +453,8 @@ void QtView::Sync(Control& c) {
       list->addItems(rows);
     }
     list->setCurrentRow(c.ListIndex());
+  } else if (auto* picture = qobject_cast<PictureWidget*>(w)) {
+    picture->Show(c.picture());
   }
   syncing_ = false;
 }
@@ -510,13 +529,15 @@ bool QtView::eventFilter(QObject* watched, QEvent* event) {
         return false;
       }
       Control* control = ControlOf(watched);
-      if (control != nullptr) Clicked(*control);
-      return false;
+      if (control == nullptr) return false;
+      Clicked(*control);
+      return true;  // the click is the label's, not its frame's too
     }
     case QEvent::MouseButtonDblClick: {
       Control* control = ControlOf(watched);
-      if (control != nullptr) DoubleClicked(*control);
-      return false;
+      if (control == nullptr || qobject_cast<QLineEdit*>(watched) != nullptr) return false;
+      DoubleClicked(*control);
+      return true;
     }
     default:
       return false;

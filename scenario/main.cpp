@@ -11,6 +11,16 @@
 
 #include "scenario/runner.h"
 
+namespace {
+// The offscreen platform cannot raise windows or resize them for real, and
+// says so on every screen shown; those lines are no news to a test run.
+void QuietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (message.startsWith(QLatin1String("This plugin does not support"))) return;
+  if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) return;
+  qt_message_output(type, context, message);
+}
+}  // namespace
+
 int main(int argc, char** argv) {
   orv::scenario::Options options;
   std::vector<std::string> files;
@@ -35,6 +45,7 @@ int main(int argc, char** argv) {
         std::getenv("QT_QPA_PLATFORM") == nullptr) {
       setenv("QT_QPA_PLATFORM", "offscreen", 1);
     }
+    qInstallMessageHandler(QuietHandler);
     app = std::make_unique<QApplication>(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
   }

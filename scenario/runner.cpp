@@ -20,7 +20,9 @@
 #include <sstream>
 
 #include "app/registry.h"
+#include "qtui/picture_widget.h"
 #include "qtui/qt_view.h"
+#include "shell/picture.h"
 
 namespace orv::scenario {
 
@@ -122,7 +124,7 @@ std::vector<Key> ParseKeys(const std::string& text) {
     const auto c = static_cast<unsigned char>(text[i]);
     Key k;
     k.ascii = c;
-    k.code = (c >= 'a' && c <= 'z') ? c - 32 : c;
+    k.code = KeyCodeOfChar(c);
     if (c >= 'A' && c <= 'Z') k.shift = kShiftMask;
     keys.push_back(k);
   }
@@ -306,6 +308,8 @@ class Run {
   bool ShownFocused(Control& c);
   std::string ShownToolTip(Control& c);
   std::vector<std::string> ShownRows(Control& c);
+  // A picture box's display list, each item described as by Describe.
+  std::vector<std::string> ShownDrawing(Control& c);
 
   const Options& options_;
   std::unique_ptr<qt::QtView> view_;
@@ -379,10 +383,17 @@ void Run::Click(Control& c, bool twice) {
     QAction* action = window != nullptr ? window->findChild<QAction*>(QString::fromStdString(c.name())) : nullptr;
     if (action == nullptr) Fail("no menu entry " + c.name());
     action->trigger();
-  } else if (twice) {
-    QTest::mouseDClick(W(c), Qt::LeftButton);
   } else {
-    QTest::mouseClick(W(c), Qt::LeftButton);
+    // Option buttons and check boxes answer clicks on their mark and caption
+    // only; click on the mark.
+    QWidget* w = W(c);
+    const QPoint at = (c.kind() == Kind::Option || c.kind() == Kind::CheckBox) ? QPoint(8, w->height() / 2)
+                                                                                : w->rect().center();
+    if (twice) {
+      QTest::mouseDClick(w, Qt::LeftButton, {}, at);
+    } else {
+      QTest::mouseClick(w, Qt::LeftButton, {}, at);
+    }
   }
   Settle();
 }
@@ -402,7 +413,9 @@ void Run::Type(Control& c, const std::string& text) {
     Qt::KeyboardModifiers mods;
     if (k.shift & kShiftMask) mods |= Qt::ShiftModifier;
     if (k.shift & kCtrlMask) mods |= Qt::ControlModifier;
-    switch (k.code) {
+    // Named keys are sent as keys, characters as the text they type.
+    const int named = k.ascii >= 32 || k.ascii == 22 ? 0 : k.code;
+    switch (named) {
       case kKeyReturn: QTest::keyClick(target, Qt::Key_Return, mods); break;
       case kKeyEscape: QTest::keyClick(target, Qt::Key_Escape, mods); break;
       case kKeyBack: QTest::keyClick(target, Qt::Key_Backspace, mods); break;
@@ -414,16 +427,14 @@ void Run::Type(Control& c, const std::string& text) {
       case kKeyHome: QTest::keyClick(target, Qt::Key_Home, mods); break;
       case kKeyEnd: QTest::keyClick(target, Qt::Key_End, mods); break;
       default:
-        if (k.shift & kCtrlMask) {
-          QTest::sendKeyEvent(QTest::Press, target, static_cast<Qt::Key>(k.code), QString(QChar(k.ascii)), mods);
-          QTest::sendKeyEvent(QTest::Release, target, static_cast<Qt::Key>(k.code), QString(QChar(k.ascii)), mods);
-        } else {
-          const QString ch(QChar(k.ascii));
-          const int key = k.code >= 'A' && k.code <= 'Z' ? k.code : ch.toUpper().at(0).unicode();
-          QTest::sendKeyEvent(QTest::Press, target, static_cast<Qt::Key>(key), ch, mods);
-          QTest::sendKeyEvent(QTest::Release, target, static_cast<Qt::Key>(key), ch, mods);
-        }
+      {
+        // Qt's key for a character is its capital's code (Key_Period is '.').
+        const QString ch(QChar(k.ascii));
+        const int key = (k.shift & kCtrlMask) ? k.code : ch.toUpper().at(0).unicode();
+        QTest::sendKeyEvent(QTest::Press, target, static_cast<Qt::Key>(key), ch, mods);
+        QTest::sendKeyEvent(QTest::Release, target, static_cast<Qt::Key>(key), ch, mods);
         break;
+      }
     }
     Settle();
   }
@@ -504,6 +515,19 @@ std::vector<std::string> Run::ShownRows(Control& c) {
   return rows;
 }
 
+std::vector<std::string> Run::ShownDrawing(Control& c) {
+  if (c.kind() != Kind::Picture) Fail(c.key() + " is no picture box");
+  std::vector<std::string> out;
+  if (!options_.qt) {
+    for (const PictureItem& item : c.picture().Items()) out.push_back(Describe(item));
+    return out;
+  }
+  auto* picture = qobject_cast<qt::PictureWidget*>(W(c));
+  if (picture == nullptr) Fail(c.key() + " has no drawing surface");
+  for (const PictureItem& item : picture->Items()) out.push_back(Describe(item));
+  return out;
+}
+
 void Run::ExpectControl(Control& c, const std::vector<Token>& t) {
   const std::string what = t.size() > 2 ? t[2].text : "";
   if (t.size() == 3 && t[2].quoted) {
@@ -539,6 +563,26 @@ void Run::ExpectControl(Control& c, const std::vector<Token>& t) {
     if (n < 0 || n >= static_cast<int>(rows.size())) Fail(c.key() + " has no row " + t[3].text);
     if (rows[static_cast<std::size_t>(n)] != t[4].text) {
       Fail(c.key() + " row " + t[3].text + " is " + Quote(rows[static_cast<std::size_t>(n)]) + ", expected " +
+           Quote(t[4].text));
+    }
+    return;
+  }
+  if (what == "items" && t.size() == 4) {
+    const auto items = ShownDrawing(c);
+    if (std::to_string(items.size()) != t[3].text) {
+      Fail(c.key() + " has " + std::to_string(items.size()) + " items drawn, expected " + t[3].text);
+    }
+    return;
+  }
+  if (what == "item" && t.size() == 5) {
+    // Counted from 1, or from the end with a negative number.
+    const auto items = ShownDrawing(c);
+    const int k = std::stoi(t[3].text);
+    const int n = static_cast<int>(items.size());
+    const int at = k > 0 ? k - 1 : n + k;
+    if (k == 0 || at < 0 || at >= n) Fail(c.key() + " has no item " + t[3].text + " of " + std::to_string(n));
+    if (items[static_cast<std::size_t>(at)] != t[4].text) {
+      Fail(c.key() + " item " + t[3].text + " is " + Quote(items[static_cast<std::size_t>(at)]) + ", expected " +
            Quote(t[4].text));
     }
     return;

@@ -1,10 +1,12 @@
 #include "shell/controls.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 
 #include "shell/errors.h"
 #include "shell/form.h"
+#include "shell/picture.h"
 #include "shell/program.h"
 #include "shell/text.h"
 
@@ -25,7 +27,20 @@ Control::Control(Form& form, const ControlSpec& spec)
       enabled_((spec.flags & kDisabled) == 0),
       visible_((spec.flags & kHidden) == 0),
       isDefault_((spec.flags & kDefault) != 0),
-      isCancel_((spec.flags & kCancel) != 0) {}
+      isCancel_((spec.flags & kCancel) != 0) {
+  if (kind_ == Kind::Picture) {
+    picture_ = std::make_shared<Picture>();
+    picture_->onChange = [this] { Notify(Prop::Content); };
+  }
+}
+
+Picture& Control::picture() const {
+  if (!picture_) {
+    std::fprintf(stderr, "%s is no picture box\n", name_.c_str());
+    std::abort();
+  }
+  return *picture_;
+}
 
 std::string Control::key() const {
   if (index_ < 0) return name_;

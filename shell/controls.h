@@ -4,6 +4,7 @@
 // raises the events that the write implies (a text box's Change, an option
 // button's Click). No toolkit code lives here.
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,7 @@
 namespace orv {
 
 class Form;
+class Picture;
 
 enum class Kind {
   TextBox,
@@ -131,6 +133,10 @@ class Control {
   int ListIndex() const { return listIndex_; }
   void SetListIndex(int row);
 
+  // Picture boxes: the drawing surface (shell/picture.h). Asking any other
+  // control for it is a programming error and aborts.
+  Picture& picture() const;
+
   // Whether the user can reach the control: it, its container and its
   // screen are enabled and visible.
   bool TakesInput() const;
@@ -164,6 +170,7 @@ class Control {
   int selLength_ = 0;
   std::vector<std::string> list_;
   int listIndex_ = -1;
+  std::shared_ptr<Picture> picture_;  // picture boxes only
 };
 
 }  // namespace orv

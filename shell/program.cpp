@@ -179,6 +179,23 @@ void Program::UserAction(const std::function<void()>& fn) {
 
 // --- keys ---
 
+int KeyCodeOfChar(int ascii) {
+  if (ascii >= 'a' && ascii <= 'z') return ascii - 'a' + 'A';
+  if ((ascii >= 'A' && ascii <= 'Z') || (ascii >= '0' && ascii <= '9') || ascii == ' ') return ascii;
+  switch (ascii) {
+    case 8: return kKeyBack;
+    case 13: return kKeyReturn;
+    case 27: return kKeyEscape;
+    case '+': case '=': return 187;
+    case ',': case '<': return 188;
+    case '-': case '_': return 189;
+    case '.': case '>': return 190;
+    case '/': case '?': return 191;
+    case 22: return 'V';
+    default: return 0;
+  }
+}
+
 void Program::MoveFocus(Form& form, Control* from, bool backwards) {
   if (Control* next = form.NextTabStop(from, backwards)) next->SetFocus();
 }

@@ -55,6 +55,10 @@ struct Key {
   int shift = 0;
 };
 
+// The key code of the key that types a character: capitals for letters,
+// the digits themselves, the punctuation keys' own codes.
+int KeyCodeOfChar(int ascii);
+
 // Thrown when the program ends; unwinds every routine under way.
 struct ProgramEnded {};
 

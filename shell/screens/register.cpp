@@ -1,4 +1,5 @@
 #include "shell/program.h"
+#include "shell/screens/choice_screens.h"
 #include "shell/screens/frmMain.h"
 #include "shell/screens/frmSplash.h"
 
@@ -7,6 +8,7 @@ namespace orv {
 void RegisterShellScreens(ScreenRegistry& r) {
   r.Add<frmMain>("frmMain");
   r.Add<frmSplash>("frmSplash");
+  RegisterChoiceScreens(r);
 }
 
 }  // namespace orv

@@ -1,0 +1,163 @@
+#include "general/frmEnglish.h"
+
+namespace orv {
+
+namespace {
+
+enum class Op { None, Times, Over };
+
+// One operation on the value: times or over a constant.
+struct Operation {
+  Op op = Op::None;
+  Expr by = 0;
+};
+
+// One direction of a conversion: up to two operations, evaluated left to
+// right, the width the result is stored in, and its unit.
+struct Direction {
+  Operation first;
+  Operation second;
+  bool single;
+  std::string_view unit;
+};
+
+constexpr Operation Times(double by) { return {Op::Times, by}; }
+constexpr Operation Over(double by) { return {Op::Over, by}; }
+constexpr Direction Stored64(Operation a, std::string_view unit) { return {a, {}, false, unit}; }
+constexpr Direction Stored64(Operation a, Operation b, std::string_view unit) { return {a, b, false, unit}; }
+constexpr Direction Stored32(Operation a, std::string_view unit) { return {a, {}, true, unit}; }
+constexpr Direction Stored32(Operation a, Operation b, std::string_view unit) { return {a, b, true, unit}; }
+
+Expr Apply(Expr value, const Operation& o) {
+  switch (o.op) {
+    case Op::Times: return value * o.by;
+    case Op::Over: return value / o.by;
+    case Op::None: break;
+  }
+  return value;
+}
+
+}  // namespace
+
+// A button's two directions and the decimals of its result. The factors are
+// rounded by hand, and the two directions of a pair are not always inverse.
+struct EnglishConversion {
+  Direction toMetric;
+  Direction toEnglish;
+  int decimals;
+};
+
+namespace {
+
+constexpr EnglishConversion kPToK{Stored64(Times(0.454), "kilograms"), Stored32(Over(454), Times(1000), "pounds"), 3};
+constexpr EnglishConversion kPToG{Stored32(Times(454), "gram(s)"), Stored32(Over(454), "pound(s)"), 6};
+constexpr EnglishConversion kOToK{Stored64(Times(28.3), Over(1000), "kilograms"), Stored64(Over(0.02837), "ounces"),
+                                  3};
+constexpr EnglishConversion kOToG{Stored64(Times(28.3), "grams"), Stored64(Over(28.3), "ounces"), 3};
+constexpr EnglishConversion kFToM{Stored64(Over(3.281), "meters"), Stored64(Times(3.281), "feet"), 3};
+constexpr EnglishConversion kFToC{Stored64(Times(30.5), "centimeters"), Stored64(Over(30.5), "feet"), 3};
+constexpr EnglishConversion kIToM{Stored64(Over(39.37), "meter(s)"), Stored64(Times(39.37), "inch(es)"), 3};
+constexpr EnglishConversion kIToC{Stored64(Times(2.54), "centimeter(s)"), Stored64(Over(2.54), "inch(es)"), 3};
+constexpr EnglishConversion kLToG{Stored64(Over(0.264), "liters"), Stored64(Times(0.264), "gallons"), 3};
+constexpr EnglishConversion kLToOunces{Stored64(Over(33.81), "liters"), Stored64(Over(0.02958), "ounces"), 3};
+constexpr EnglishConversion kMToG{Stored64(Over(0.000264), "milliliters"), Stored64(Over(3785.41), "gallons"), 6};
+constexpr EnglishConversion kMToO{Stored64(Over(0.0338), "milliliters"), Stored64(Over(30.3), "ounces"), 3};
+
+constexpr std::string_view kHelp =
+    "All measurements in chemistry must be in the metric system of measurements. Sometimes, you are given a "
+    "quantity in the English system. This section is provided as a convenience so that if you need to make a "
+    "conversion, you can do so.";
+
+constexpr Rect Conversion(int column, int row) { return {20 + column * 176, 96 + row * 38, 168, 30}; }
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Label, "Label1", "Enter a value", {20, 22, 110, 22}},
+    {Kind::TextBox, "Text1", "", {134, 18, 226, 26}},
+    {Kind::Option, "Option1", "English To Metric", {20, 58, 168, 24}},
+    {Kind::Option, "Option2", "Metric To English", {196, 58, 168, 24}},
+    {Kind::Button, "cmdPToK", "Pound - Kilograms", Conversion(0, 0)},
+    {Kind::Button, "cmdPToG", "Pounds - Grams", Conversion(0, 1)},
+    {Kind::Button, "cmdOToK", "Ounces - Kilograms", Conversion(0, 2)},
+    {Kind::Button, "cmdOToG", "Ounces - Grams", Conversion(0, 3)},
+    {Kind::Button, "cmdFToM", "Feet - Meters", Conversion(1, 0)},
+    {Kind::Button, "cmdFToC", "Feet - Centimeters", Conversion(1, 1)},
+    {Kind::Button, "cmdIToM", "Inches - Meters", Conversion(1, 2)},
+    {Kind::Button, "cmdIToC", "Inches - Centimeters", Conversion(1, 3)},
+    {Kind::Button, "cmdLToG", "Gallons - Liters", Conversion(2, 0)},
+    {Kind::Button, "cmdLToOunces", "Ounces - Liters", Conversion(2, 1)},
+    {Kind::Button, "cmdMToG", "Gallons - Milliliters", Conversion(2, 2)},
+    {Kind::Button, "cmdMToO", "Ounces - Milliliters", Conversion(2, 3)},
+    {Kind::TextBox, "Text2", "", {134, 256, 226, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label3", "", {368, 260, 148, 22}},
+    {Kind::Button, "cmdClear", "Clear", {20, 302, 80, 30}},
+    {Kind::Button, "cmdCancel", "Close", {108, 302, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdHelp", "?", {484, 304, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+}  // namespace
+
+frmEnglish::frmEnglish(Program& program)
+    : CalculatorScreen(program, {"frmEnglish", "English - Metric Conversions", 536, 348}, kControls,
+                       {"frmGeneralChoice", "", kHelp}) {
+  Bind("Form", Ev::Load, &frmEnglish::Form_Load);
+  Bind("cmdClear", Ev::Click, &frmEnglish::cmdClear_Click);
+  Bind("cmdCancel", Ev::Click, &frmEnglish::cmdCancel_Click);
+  Bind("cmdPToK", Ev::Click, &frmEnglish::cmdPToK_Click);
+  Bind("cmdPToG", Ev::Click, &frmEnglish::cmdPToG_Click);
+  Bind("cmdOToK", Ev::Click, &frmEnglish::cmdOToK_Click);
+  Bind("cmdOToG", Ev::Click, &frmEnglish::cmdOToG_Click);
+  Bind("cmdFToM", Ev::Click, &frmEnglish::cmdFToM_Click);
+  Bind("cmdFToC", Ev::Click, &frmEnglish::cmdFToC_Click);
+  Bind("cmdIToM", Ev::Click, &frmEnglish::cmdIToM_Click);
+  Bind("cmdIToC", Ev::Click, &frmEnglish::cmdIToC_Click);
+  Bind("cmdLToG", Ev::Click, &frmEnglish::cmdLToG_Click);
+  Bind("cmdLToOunces", Ev::Click, &frmEnglish::cmdLToOunces_Click);
+  Bind("cmdMToG", Ev::Click, &frmEnglish::cmdMToG_Click);
+  Bind("cmdMToO", Ev::Click, &frmEnglish::cmdMToO_Click);
+}
+
+void frmEnglish::Form_Load() { cmdClear_Click(); }
+
+void frmEnglish::cmdClear_Click() {
+  ctl("Text1").SetText("");
+  ctl("Text2").SetText("");
+  ctl("Label3").SetCaption("");
+  ctl("Option1").SetValue(true);
+}
+
+void frmEnglish::cmdCancel_Click() {
+  Unload();
+  ShowForm("frmGeneralChoice");
+}
+
+// No key filter and no error trap: text that is no number ends the program.
+void frmEnglish::Convert(const EnglishConversion& conversion) {
+  if (ctl("Text1").Text().empty()) {
+    MsgBox("You must enter a valid number to convert.", Icon::Exclamation, kTitle);
+    return;
+  }
+  const Direction& d = ctl("Option1").Value() ? conversion.toMetric : conversion.toEnglish;
+  const Single x = CSng(ctl("Text1").Text());
+  const Expr value = Apply(Apply(x, d.first), d.second);
+  if (d.single) {
+    ctl("Text2").SetText(FormatNumber(Single(value), conversion.decimals));
+  } else {
+    ctl("Text2").SetText(FormatNumber(Double(value), conversion.decimals));
+  }
+  ctl("Label3").SetCaption(std::string(d.unit));
+}
+
+void frmEnglish::cmdPToK_Click() { Convert(kPToK); }
+void frmEnglish::cmdPToG_Click() { Convert(kPToG); }
+void frmEnglish::cmdOToK_Click() { Convert(kOToK); }
+void frmEnglish::cmdOToG_Click() { Convert(kOToG); }
+void frmEnglish::cmdFToM_Click() { Convert(kFToM); }
+void frmEnglish::cmdFToC_Click() { Convert(kFToC); }
+void frmEnglish::cmdIToM_Click() { Convert(kIToM); }
+void frmEnglish::cmdIToC_Click() { Convert(kIToC); }
+void frmEnglish::cmdLToG_Click() { Convert(kLToG); }
+void frmEnglish::cmdLToOunces_Click() { Convert(kLToOunces); }
+void frmEnglish::cmdMToG_Click() { Convert(kMToG); }
+void frmEnglish::cmdMToO_Click() { Convert(kMToO); }
+
+}  // namespace orv

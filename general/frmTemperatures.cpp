@@ -1,0 +1,95 @@
+#include "general/frmTemperatures.h"
+
+namespace orv {
+
+namespace {
+
+constexpr std::string_view kScreenTitle = "Temperatures";
+constexpr KeyFilter kTemperatureFilter{"-.", kScreenTitle};
+constexpr Form::Trap kTemperatureTrap{"", Icon::Exclamation, kScreenTitle};
+
+constexpr std::string_view kHelp =
+    "You are familiar with Fahrenheit temperatures. 32 is freezing and 212 is boiling. However, in chemistry, "
+    "temperatures must be in Celsius or Kelvin. Chemical laws and principles are set up to use the Celsius scale "
+    "most of the time. There are some cases, gases in particular, where the temperatures must be Kelvin. Gas "
+    "calculations just work better mathematically when the temperatures are in Celsius or Kelvin. ";
+
+constexpr int kConvTop = 60;
+constexpr Rect Conversion(int column, int row) { return {20 + column * 100, kConvTop + row * 38, 92, 30}; }
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Label, "Label1", "Enter a temperature value.", {20, 22, 176, 22}},
+    {Kind::TextBox, "Text1", "", {200, 18, 196, 26}, {}, {}, -1, 0, &kTemperatureFilter},
+    {Kind::Button, "cmdFToC", "F To C", Conversion(0, 0), {}, {}, -1, kDefault},
+    {Kind::Button, "cmdCToF", "C To F", Conversion(1, 0)},
+    {Kind::Button, "cmdKToF", "K To F", Conversion(2, 0)},
+    {Kind::Button, "cmdFToK", "F To K", Conversion(0, 1)},
+    {Kind::Button, "cmdCToK", "C To K", Conversion(1, 1)},
+    {Kind::Button, "cmdKToC", "K To C", Conversion(2, 1)},
+    {Kind::Label, "Label2", "The new temperature is", {20, 150, 176, 22}},
+    {Kind::TextBox, "Text2", "", {200, 146, 196, 26}, {}, {}, -1, kDisabled},
+    {Kind::TextBox, "Text3", "", {20, 184, 376, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdClear", "Clear", {20, 228, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {108, 228, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {196, 228, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {364, 230, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+}  // namespace
+
+frmTemperatures::frmTemperatures(Program& program)
+    : CalculatorScreen(program, {"frmTemperatures", "Temperature Conversion", 416, 274}, kControls,
+                       {"frmGeneralChoice", "Text1", kHelp}) {
+  Bind("Form", Ev::Load, &frmTemperatures::Form_Load);
+  Bind("cmdCToF", Ev::Click, &frmTemperatures::cmdCToF_Click);
+  Bind("cmdFToC", Ev::Click, &frmTemperatures::cmdFToC_Click);
+  Bind("cmdClear", Ev::Click, &frmTemperatures::cmdClear_Click);
+  Bind("cmdCancel", Ev::Click, &frmTemperatures::cmdCancel_Click);
+}
+
+void frmTemperatures::Form_Load() {
+  HideForm("frmGeneralChoice");
+  ctl("Text1").SetText("");
+  ctl("Text2").SetText("");
+  ctl("Text3").SetText("");
+  ctl("cmdPrint").SetEnabled(false);
+}
+
+void frmTemperatures::cmdCToF_Click() {
+  Trapped(kTemperatureTrap, [&] {
+    if (ctl("Text1").Text().empty()) {
+      MsgBox("You must enter a valid temperature.", Icon::Information, kScreenTitle);
+      return;
+    }
+    const Double c = CDbl(ctl("Text1").Text());
+    const Double f = Expr(9) / 5 * c + 32;
+    ctl("Text2").SetText(FormatNumber(f, 3));
+    ctl("Text3").SetText("9/5 " + std::string(" x ") + Str(c) + " + " + "32  =  " + Str(f));
+  });
+}
+
+void frmTemperatures::cmdFToC_Click() {
+  Trapped(kTemperatureTrap, [&] {
+    if (ctl("Text1").Text().empty()) {
+      MsgBox("You must enter a valid temperature.", Icon::Information, kScreenTitle);
+      return;
+    }
+    const Double f = CDbl(ctl("Text1").Text());
+    const Double c = (f - 32) * (Expr(5) / 9);
+    ctl("Text2").SetText(FormatNumber(c, 3));
+    ctl("Text3").SetText("5/9 " + std::string(" x ") + " (" + Str(f) + "- " + "32)  =  " + Str(c));
+  });
+}
+
+void frmTemperatures::cmdClear_Click() {
+  ctl("Text1").SetText("");
+  ctl("Text2").SetText("");
+  ctl("Text3").SetText("");
+}
+
+void frmTemperatures::cmdCancel_Click() {
+  Unload();
+  ShowForm("frmGeneralChoice");
+}
+
+}  // namespace orv
