@@ -13,13 +13,9 @@ namespace orv::data {
 
 namespace {
 
-[[noreturn]] void EngineError(std::string words) {
-  throw RuntimeError(ErrorCode::Engine, std::move(words));
-}
+[[noreturn]] void EngineError(std::string words) { throw RuntimeError(ErrorCode::Engine, std::move(words)); }
 
-bool StartsWith(std::string_view text, std::string_view prefix) {
-  return text.substr(0, prefix.size()) == prefix;
-}
+bool StartsWith(std::string_view text, std::string_view prefix) { return text.substr(0, prefix.size()) == prefix; }
 
 // The part of an SQLite message behind a prefix such as "no such table: ".
 std::string After(std::string_view message, std::string_view prefix) {
@@ -30,8 +26,7 @@ std::string After(std::string_view message, std::string_view prefix) {
 [[noreturn]] void QueryError(sqlite3* db, int code) {
   const std::string_view message = sqlite3_errmsg(db);
   if (StartsWith(message, "no such table: ")) {
-    EngineError("The database engine cannot find the input table or query '" +
-                After(message, "no such table: ") +
+    EngineError("The database engine cannot find the input table or query '" + After(message, "no such table: ") +
                 "'. Make sure it exists and that its name is spelled correctly.");
   }
   if (StartsWith(message, "no such column: ")) {
@@ -53,12 +48,9 @@ std::string After(std::string_view message, std::string_view prefix) {
 
 Variant ColumnValue(sqlite3_stmt* statement, int column) {
   switch (sqlite3_column_type(statement, column)) {
-    case SQLITE_NULL:
-      return Variant(Null{});
-    case SQLITE_INTEGER:
-      return Variant(static_cast<double>(sqlite3_column_int64(statement, column)));
-    case SQLITE_FLOAT:
-      return Variant(sqlite3_column_double(statement, column));
+    case SQLITE_NULL: return Variant(Null{});
+    case SQLITE_INTEGER: return Variant(static_cast<double>(sqlite3_column_int64(statement, column)));
+    case SQLITE_FLOAT: return Variant(sqlite3_column_double(statement, column));
     default: {
       // Text, and a blob read as its bytes.
       const auto* bytes = static_cast<const char*>(sqlite3_column_blob(statement, column));
@@ -89,9 +81,7 @@ struct Statement {
 // ---------------------------------------------------------------------------
 // Workspace
 
-std::unique_ptr<Database> Workspace::OpenDatabase(const std::string& path) const {
-  return Database::Open(path);
-}
+std::unique_ptr<Database> Workspace::OpenDatabase(const std::string& path) const { return Database::Open(path); }
 
 Workspace& DefaultWorkspace() {
   static Workspace workspace;
@@ -135,8 +125,7 @@ Database::~Database() { sqlite3_close(db_); }
 std::unique_ptr<Recordset> Database::OpenRecordset(const std::string& sql) {
   Statement statement;
   const char* tail = nullptr;
-  const int prepared = sqlite3_prepare_v2(db_, sql.c_str(), static_cast<int>(sql.size()) + 1,
-                                          &statement.handle, &tail);
+  const int prepared = sqlite3_prepare_v2(db_, sql.c_str(), static_cast<int>(sql.size()) + 1, &statement.handle, &tail);
   if (prepared != SQLITE_OK) QueryError(db_, prepared);
   if (statement.handle == nullptr) {
     EngineError("Invalid SQL statement; expected 'SELECT'.");

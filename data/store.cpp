@@ -77,9 +77,7 @@ std::optional<Variant> Walk(DataStore& store, std::string sql, const std::string
 
 }  // namespace
 
-void FillElements(DataStore& store) {
-  FillColumns(store, "SELECT Symbol, AtomicWeight FROM GeneralInfo", true);
-}
+void FillElements(DataStore& store) { FillColumns(store, "SELECT Symbol, AtomicWeight FROM GeneralInfo", true); }
 
 void FillElementSymbols(DataStore& store) { FillColumns(store, "SELECT Symbol FROM GeneralInfo", false); }
 

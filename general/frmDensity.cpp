@@ -24,7 +24,7 @@ constexpr ControlSpec kControls[] = {
     {Kind::Label, "lblDensity3", "The mass is ", {20, 162, 180, 22}},
     {Kind::TextBox, "txtDensity3", "", {204, 158, 216, 26}, {}, {}, -1, kDisabled},
     {Kind::TextBox, "Text2", "", {20, 196, 400, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 240, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdOk", "Ok", {20, 240, 80, 30}, {}, {}, -1, kDefault},
     {Kind::Button, "cmdClear", "Clear", {108, 240, 80, 30}},
     {Kind::Button, "cmdCancel", "Cancel", {196, 240, 80, 30}, {}, {}, -1, kCancel},
     {Kind::Button, "cmdPrint", "Print", {284, 240, 80, 30}},

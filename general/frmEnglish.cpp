@@ -51,8 +51,7 @@ namespace {
 
 constexpr EnglishConversion kPToK{Stored64(Times(0.454), "kilograms"), Stored32(Over(454), Times(1000), "pounds"), 3};
 constexpr EnglishConversion kPToG{Stored32(Times(454), "gram(s)"), Stored32(Over(454), "pound(s)"), 6};
-constexpr EnglishConversion kOToK{Stored64(Times(28.3), Over(1000), "kilograms"), Stored64(Over(0.02837), "ounces"),
-                                  3};
+constexpr EnglishConversion kOToK{Stored64(Times(28.3), Over(1000), "kilograms"), Stored64(Over(0.02837), "ounces"), 3};
 constexpr EnglishConversion kOToG{Stored64(Times(28.3), "grams"), Stored64(Over(28.3), "ounces"), 3};
 constexpr EnglishConversion kFToM{Stored64(Over(3.281), "meters"), Stored64(Times(3.281), "feet"), 3};
 constexpr EnglishConversion kFToC{Stored64(Times(30.5), "centimeters"), Stored64(Over(30.5), "feet"), 3};
@@ -68,13 +67,13 @@ constexpr std::string_view kHelp =
     "quantity in the English system. This section is provided as a convenience so that if you need to make a "
     "conversion, you can do so.";
 
-constexpr Rect Conversion(int column, int row) { return {20 + column * 176, 96 + row * 38, 168, 30}; }
+constexpr Rect Conversion(int column, int row) { return {20 + column * 168, 96 + row * 38, 160, 30}; }
 
 constexpr ControlSpec kControls[] = {
     {Kind::Label, "Label1", "Enter a value", {20, 22, 110, 22}},
-    {Kind::TextBox, "Text1", "", {134, 18, 226, 26}},
-    {Kind::Option, "Option1", "English To Metric", {20, 58, 168, 24}},
-    {Kind::Option, "Option2", "Metric To English", {196, 58, 168, 24}},
+    {Kind::TextBox, "Text1", "", {134, 18, 214, 26}},
+    {Kind::Option, "Option1", "English To Metric", {20, 58, 160, 24}},
+    {Kind::Option, "Option2", "Metric To English", {188, 58, 160, 24}},
     {Kind::Button, "cmdPToK", "Pound - Kilograms", Conversion(0, 0)},
     {Kind::Button, "cmdPToG", "Pounds - Grams", Conversion(0, 1)},
     {Kind::Button, "cmdOToK", "Ounces - Kilograms", Conversion(0, 2)},
@@ -87,8 +86,8 @@ constexpr ControlSpec kControls[] = {
     {Kind::Button, "cmdLToOunces", "Ounces - Liters", Conversion(2, 1)},
     {Kind::Button, "cmdMToG", "Gallons - Milliliters", Conversion(2, 2)},
     {Kind::Button, "cmdMToO", "Ounces - Milliliters", Conversion(2, 3)},
-    {Kind::TextBox, "Text2", "", {134, 256, 226, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label3", "", {368, 260, 148, 22}},
+    {Kind::TextBox, "Text2", "", {134, 256, 214, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label3", "", {356, 260, 160, 22}},
     {Kind::Button, "cmdClear", "Clear", {20, 302, 80, 30}},
     {Kind::Button, "cmdCancel", "Close", {108, 302, 80, 30}, {}, {}, -1, kCancel},
     {Kind::Button, "cmdHelp", "?", {484, 304, 32, 26}, "Press for help", {}, -1, kSmall},

@@ -26,39 +26,36 @@ constexpr Category kCategories[] = {
 
 enum class Op { None, Times, Over };
 
-// What one conversion does with the value, and what it adds to the working
-// line after the value as typed.
+// What one conversion does with the value.
 struct Factor {
   Op op;
   Expr by;
-  std::string_view shown;
 };
 
-constexpr Factor kSame{Op::None, 0, ""};
-constexpr Factor Times(double by, std::string_view shown) { return {Op::Times, by, shown}; }
-constexpr Factor Over(double by, std::string_view shown) { return {Op::Over, by, shown}; }
+constexpr Factor kSame{Op::None, 0};
+constexpr Factor Times(double by) { return {Op::Times, by}; }
+constexpr Factor Over(double by) { return {Op::Over, by}; }
+
+// The working line's literal after the value as typed: " * 100", " / 1000".
+std::string Literal(const Factor& f) { return (f.op == Op::Times ? " * " : " / ") + Str(Double(f.by)); }
 
 // The factors of all three categories: a row for each From unit, a column for
 // each To unit, both largest first (kilo, deka, base, deci, centi, milli).
 // These are the screen's answers as they stand; a few of them are not the
 // power of ten between their units (deci, centi and milli to deka, centi to
 // base), and so those pairs are not the inverse of the way back.
+// clang-format off
 constexpr Factor kFactors[kUnits][kUnits] = {
-    {kSame, Times(100, " * 100"), Times(1000, " * 1000"), Times(10000, " * 10000"), Times(100000, " * 100000"),
-     Times(1000000, " * 1000000")},
-    {Over(100, " / 100"), kSame, Times(10, " * 10"), Times(100, " * 100"), Times(1000, " * 1000"),
-     Times(10000, " * 10000")},
-    {Over(1000, " / 1000"), Over(10, " / 10"), kSame, Times(10, " * 10"), Times(100, " * 100"),
-     Times(1000, " * 1000")},
-    {Over(10000, " / 10000"), Over(1000, " / 1000"), Over(10, " / 10"), kSame, Times(10, " * 10"),
-     Times(100, " * 100")},
-    {Over(100000, " / 100000"), Over(10000, " / 10000"), Over(1000, " / 1000"), Over(10, " / 10"), kSame,
-     Times(10, " * 10")},
-    {Over(1000000, " / 1000000"), Over(100000, " / 100000"), Over(1000, " / 1000"), Over(100, " / 100"),
-     Over(10, " / 10"), kSame},
+    {kSame,           Times(100),     Times(1000), Times(10000), Times(100000), Times(1000000)},
+    {Over(100),       kSame,          Times(10),   Times(100),   Times(1000),   Times(10000)},
+    {Over(1000),      Over(10),       kSame,       Times(10),    Times(100),    Times(1000)},
+    {Over(10000),     Over(1000),     Over(10),    kSame,        Times(10),     Times(100)},
+    {Over(100000),    Over(10000),    Over(1000),  Over(10),     kSame,         Times(10)},
+    {Over(1000000),   Over(100000),   Over(1000),  Over(100),    Over(10),      kSame},
 };
+// clang-format on
 
-// Pairs whose working line is not the one their factor gives: another
+// Pairs whose working line is not the literal of their factor: another
 // literal, or no line at all (the previous one stays).
 struct WorkingLine {
   int category;  // 1 mass, 2 distance, 3 volume
@@ -68,10 +65,10 @@ struct WorkingLine {
   std::string_view shown;
 };
 constexpr WorkingLine kWorkingLines[] = {
-    {2, 3, 1, true, " / 100"},   // Meter to Kilometer
-    {2, 5, 6, false, ""},        // Centimeter to Millimeter
-    {3, 4, 5, true, " *10"},     // Deciliter to Centiliter
-    {3, 4, 6, true, " *100"},    // Deciliter to Milliliter
+    {2, 3, 1, true, " / 100"},  // Meter to Kilometer
+    {2, 5, 6, false, ""},       // Centimeter to Millimeter
+    {3, 4, 5, true, " *10"},    // Deciliter to Centiliter
+    {3, 4, 6, true, " *100"},   // Deciliter to Milliliter
 };
 
 constexpr std::string_view kHelp =
@@ -85,8 +82,7 @@ constexpr Rect Unit(int position) { return {16, kUnitTop + (position - 1) * kUni
 
 constexpr ControlSpec kControls[] = {
     {Kind::Label, "lblMetric1", "Enter a value", {20, 22, 96, 22}},
-    {Kind::TextBox, "txtMetric1", "", {120, 18, 156, 26}, "Enter a valid, positive number.", {}, -1, 0,
-     &kMetricFilter},
+    {Kind::TextBox, "txtMetric1", "", {120, 18, 156, 26}, "Enter a valid, positive number.", {}, -1, 0, &kMetricFilter},
     {Kind::Label, "lblMetric2", "New Value", {20, 58, 96, 22}},
     {Kind::TextBox, "txtMetric2", "", {120, 54, 156, 26}, {}, {}, -1, kDisabled},
     {Kind::TextBox, "Text1", "", {20, 96, 520, 26}, {}, {}, -1, kDisabled},
@@ -110,7 +106,7 @@ constexpr ControlSpec kControls[] = {
     {Kind::Option, "optDistance10", "Decigram", Unit(4), {}, "frmDistance2"},
     {Kind::Option, "optDistance11", "Centigram", Unit(5), {}, "frmDistance2"},
     {Kind::Option, "optDistance12", "Milligram", Unit(6), {}, "frmDistance2"},
-    {Kind::Button, "cmdOk", "Ok", {20, 388, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdOk", "Ok", {20, 388, 80, 30}, {}, {}, -1, kDefault},
     {Kind::Button, "cmdClear", "Clear", {108, 388, 80, 30}},
     {Kind::Button, "cmdCancel", "Cancel", {196, 388, 80, 30}, {}, {}, -1, kCancel},
     {Kind::Button, "cmdPrint", "Print", {284, 388, 80, 30}},
@@ -215,14 +211,14 @@ void frmMetrics::cmdOk_Click() {
     ctl("txtMetric2").SetText(Str(result));
 
     bool written = true;
-    std::string_view shown = factor.shown;
+    std::string shown = Literal(factor);
     for (const WorkingLine& line : kWorkingLines) {
       if (line.category == category && line.from == from && line.to == to) {
         written = line.written;
         shown = line.shown;
       }
     }
-    if (written) ctl("Text1").SetText(value + std::string(shown));
+    if (written) ctl("Text1").SetText(value + shown);
   });
 }
 

@@ -24,6 +24,7 @@
 #include <QVBoxLayout>
 
 #include "qtui/picture_widget.h"
+#include "qtui/rich_text_widget.h"
 #include "shell/picture.h"
 #include "shell/text.h"
 
@@ -260,8 +261,10 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
       }
       case Kind::Label: {
         auto* label = new QLabel(parent);
-        label->setWordWrap(c.rect().h > 30);
-        label->setAlignment(AlignFor(c) | (c.rect().h > 30 ? Qt::AlignTop : Qt::Alignment()));
+        // Labels of several lines wrap and start at the top.
+        const bool lines = c.rect().h > 30;
+        label->setWordWrap(lines);
+        label->setAlignment(lines ? (AlignFor(c) & Qt::AlignHorizontal_Mask) | Qt::AlignTop : AlignFor(c));
         if ((c.flags() & kBorder) != 0) label->setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
         label->installEventFilter(this);
         w = label;
@@ -308,6 +311,18 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
       }
       case Kind::Picture: {
         w = new PictureWidget(parent);
+        break;
+      }
+      case Kind::RichText: {
+        // Keys come through the runtime like a text box's; what the widget
+        // reports itself is a paste or drop, and the caret.
+        auto* rich = new RichTextWidget(parent);
+        Control* target = &c;
+        rich->onEdited = [this, target](const QString& t) { Edited(*target, t); };
+        rich->onCaret = [this, target](int start, int length) {
+          if (!syncing_ && program_ != nullptr) program_->UserCaret(*target, start, length);
+        };
+        w = rich;
         break;
       }
       case Kind::Image: {
@@ -425,6 +440,7 @@ void QtView::Sync(Control& c) {
   w->setVisible(c.Visible());
   w->setToolTip(Q(c.ToolTip()));
   const QString text = Q(c.Text());
+  if (auto* rich = dynamic_cast<RichTextWidget*>(w)) rich->ShowControl(c);
   if (auto* edit = qobject_cast<QLineEdit*>(w)) {
     if (edit->text() != text) edit->setText(text);
     if (c.SelLength() > 0) {
@@ -556,6 +572,8 @@ void QtMessages::Show(std::string_view text, Icon icon, std::string_view title) 
 }
 
 void QtMessages::ShowFatal(std::string_view words) { Show(words, Icon::Critical, "Orvanta"); }
+
+void QtMessages::Beep() { QApplication::beep(); }
 
 QImage GrabForm(QtView& view, Form& form) {
   QWidget* w = view.Window(form);

@@ -75,6 +75,7 @@ class QtMessages : public MessageService {
  public:
   void Show(std::string_view text, Icon icon, std::string_view title) override;
   void ShowFatal(std::string_view words) override;
+  void Beep() override;
   std::function<void(QMessageBox&)> hook;
 };
 

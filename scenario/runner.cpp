@@ -11,6 +11,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 #include <deque>
 #include <filesystem>
@@ -22,7 +23,10 @@
 #include "app/registry.h"
 #include "qtui/picture_widget.h"
 #include "qtui/qt_view.h"
+#include "qtui/rich_text_widget.h"
 #include "shell/picture.h"
+#include "shell/rich_text.h"
+#include "shell/text.h"
 
 namespace orv::scenario {
 
@@ -198,8 +202,14 @@ class Messages : public MessageService {
     }
   }
 
+  void Beep() override {
+    ++beeps;
+    if (real_ != nullptr) real_->Beep();
+  }
+
   std::deque<Box> boxes;
   std::string fatalWords;
+  int beeps = 0;
 
  private:
   qt::QtMessages* real_;
@@ -442,14 +452,22 @@ void Run::Type(Control& c, const std::string& text) {
 
 void Run::Paste(Control& c, const std::string& text) {
   if (!options_.qt) {
+    // As through Qt, a rich text box's whole text is selected, then replaced.
+    if (c.kind() == Kind::RichText) P().UserCaret(c, 0, CharCount(c.Text()));
     P().UserEdit(c, text);
+    return;
+  }
+  FocusForTyping(c);
+  // As the context menu's Paste does over the whole text.
+  QApplication::clipboard()->setText(QString::fromStdString(text));
+  if (auto* rich = qobject_cast<QTextEdit*>(W(c))) {
+    rich->selectAll();
+    rich->paste();
+    Settle();
     return;
   }
   auto* edit = qobject_cast<QLineEdit*>(W(c));
   if (edit == nullptr) Fail(c.key() + " is no text box");
-  FocusForTyping(c);
-  // As the context menu's Paste does over the whole text.
-  QApplication::clipboard()->setText(QString::fromStdString(text));
   edit->selectAll();
   edit->paste();
   Settle();
@@ -475,6 +493,7 @@ std::string Run::ShownText(Control& c) {
   }
   QWidget* w = W(c);
   if (auto* e = qobject_cast<QLineEdit*>(w)) return e->text().toStdString();
+  if (auto* r = qobject_cast<QTextEdit*>(w)) return r->toPlainText().toStdString();
   if (auto* l = qobject_cast<QLabel*>(w)) return l->text().toStdString();
   if (auto* b = qobject_cast<QAbstractButton*>(w)) return b->text().toStdString();
   if (auto* g = qobject_cast<QGroupBox*>(w)) return g->title().toStdString();
@@ -545,6 +564,20 @@ void Run::ExpectControl(Control& c, const std::vector<Token>& t) {
   if (what == "selected" || what == "checked") return check(ShownChecked(c), what.c_str());
   if (what == "unselected" || what == "unchecked") return check(!ShownChecked(c), what.c_str());
   if (what == "focused") return check(ShownFocused(c), "focused");
+  if (what == "offsets" && t.size() == 4) {
+    // A rich text box's characters: lowered (-50), on the line (0), raised (50).
+    if (c.kind() != Kind::RichText) Fail(c.key() + " is no rich text box");
+    std::vector<int> offsets = c.rich().Offsets();
+    if (options_.qt) {
+      auto* rich = dynamic_cast<qt::RichTextWidget*>(W(c));
+      if (rich == nullptr) Fail("no rich text widget for " + c.key());
+      offsets = rich->ShownOffsets();
+    }
+    std::string shown;
+    for (std::size_t i = 0; i < offsets.size(); ++i) shown += (i > 0 ? "," : "") + std::to_string(offsets[i]);
+    if (shown != t[3].text) Fail(c.key() + " has the offsets " + Quote(shown) + ", expected " + Quote(t[3].text));
+    return;
+  }
   if (what == "tooltip" && t.size() == 4) {
     const std::string tip = ShownToolTip(c);
     if (tip != t[3].text) Fail(c.key() + " has the tool tip " + Quote(tip) + ", expected " + Quote(t[3].text));
@@ -635,6 +668,14 @@ void Run::Expect(const std::vector<Token>& t) {
     if (name != t[2].text) Fail(name + " was printed, expected " + t[2].text);
     return;
   }
+  if (subject == "beeps") {
+    // The beeps since the last such step.
+    if (t.size() != 3) Fail("expect beeps N");
+    const int beeps = messages_->beeps;
+    messages_->beeps = 0;
+    if (std::to_string(beeps) != t[2].text) Fail(std::to_string(beeps) + " beeps, expected " + t[2].text);
+    return;
+  }
   if (subject == "launched") {
     if (launcher_->launched == 0) Fail("no calculator was launched");
     --launcher_->launched;
@@ -675,13 +716,24 @@ bool Run::Step(const std::vector<Token>& t) {
     P().UserAction([&] { P().Show(name); });
     Settle();
   } else if (verb == "click" || verb == "dblclick") {
-    if (t.size() != 2) Fail(verb + " FORM.CTRL");
-    Click(Ctl(ParseTarget(t[1].text)), verb == "dblclick");
+    if (t.size() != 2 && t.size() != 3) Fail(verb + " FORM.CTRL [N]");
+    // "click FORM.CTRL N" clicks N times; only the last click may leave a
+    // message box behind.
+    const int times = t.size() == 3 ? std::stoi(t[2].text) : 1;
+    for (int i = 0; i < times; ++i) {
+      if (i > 0) BeforeAction();
+      Click(Ctl(ParseTarget(t[1].text)), verb == "dblclick");
+    }
   } else if (verb == "type" || verb == "paste") {
     if (t.size() != 3 || !t[2].quoted) Fail(verb + " FORM.CTRL \"text\"");
     Control& c = Ctl(ParseTarget(t[1].text));
     if (verb == "type") Type(c, t[2].text);
     else Paste(c, t[2].text);
+  } else if (verb == "snapshot") {
+    // Saves the window's image, through the widgets only: for looking at a screen.
+    if (t.size() != 3 || !t[2].quoted) Fail("snapshot FORM \"file.png\"");
+    Form& f = LoadedForm(t[1].text);
+    if (options_.qt && !qt::GrabForm(*view_, f).save(QString::fromStdString(t[2].text))) Fail("cannot save " + t[2].text);
   } else if (verb == "select") {
     if (t.size() != 3) Fail("select FORM.CTRL N");
     Select(Ctl(ParseTarget(t[1].text)), std::stoi(t[2].text));

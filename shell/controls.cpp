@@ -8,6 +8,7 @@
 #include "shell/form.h"
 #include "shell/picture.h"
 #include "shell/program.h"
+#include "shell/rich_text.h"
 #include "shell/text.h"
 
 namespace orv {
@@ -32,6 +33,7 @@ Control::Control(Form& form, const ControlSpec& spec)
     picture_ = std::make_shared<Picture>();
     picture_->onChange = [this] { Notify(Prop::Content); };
   }
+  if (kind_ == Kind::RichText) rich_ = std::make_shared<RichText>();
 }
 
 Picture& Control::picture() const {
@@ -40,6 +42,22 @@ Picture& Control::picture() const {
     std::abort();
   }
   return *picture_;
+}
+
+const RichText& Control::rich() const {
+  if (!rich_) {
+    std::fprintf(stderr, "%s is no rich text box\n", name_.c_str());
+    std::abort();
+  }
+  return *rich_;
+}
+
+int Control::SelCharOffset() const { return rich().TypingOffset(); }
+
+void Control::SetSelCharOffset(int offset) {
+  if (!rich_) static_cast<void>(rich());  // aborts
+  rich_->SetOffset(selStart_, selLength_, offset);
+  if (selLength_ > 0) Notify(Prop::Text);
 }
 
 std::string Control::key() const {
@@ -56,6 +74,7 @@ void Control::SetText(std::string text) {
     // Writing a box's text puts the caret at its start, as a fresh text has.
     selStart_ = 0;
     selLength_ = 0;
+    if (rich_) rich_->Reset(CharCount(text_));
     Notify(Prop::Text);
     form_->Fire(this, Ev::Change);
   } else {
@@ -64,6 +83,7 @@ void Control::SetText(std::string text) {
 }
 
 void Control::SetTextQuiet(std::string text) {
+  if (rich_) rich_->Follow(text_, text, selStart_, selLength_);
   text_ = std::move(text);
   Notify(Prop::Text);
 }

@@ -13,6 +13,7 @@ namespace orv {
 
 class Form;
 class Picture;
+class RichText;
 
 enum class Kind {
   TextBox,
@@ -137,6 +138,14 @@ class Control {
   // control for it is a programming error and aborts.
   Picture& picture() const;
 
+  // Rich text boxes: each character's offset from the line and that of the
+  // next typed character (shell/rich_text.h). Setting the offset with
+  // characters selected moves them as well. Asking any other control for
+  // them is a programming error and aborts.
+  const RichText& rich() const;
+  int SelCharOffset() const;
+  void SetSelCharOffset(int offset);
+
   // Whether the user can reach the control: it, its container and its
   // screen are enabled and visible.
   bool TakesInput() const;
@@ -171,6 +180,7 @@ class Control {
   std::vector<std::string> list_;
   int listIndex_ = -1;
   std::shared_ptr<Picture> picture_;  // picture boxes only
+  std::shared_ptr<RichText> rich_;    // rich text boxes only
 };
 
 }  // namespace orv

@@ -109,6 +109,8 @@ int Form::MsgBox(std::string_view text, Icon icon, std::string_view title) {
   return 1;
 }
 
+void Form::Beep() { program_->messages().Beep(); }
+
 void Form::PrintForm() { program_->printer().PrintImage(*this); }
 
 void Form::Show() { program_->Show(name_); }

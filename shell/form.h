@@ -119,6 +119,7 @@ class Form {
 
   // Screen services for the routines.
   int MsgBox(std::string_view text, Icon icon, std::string_view title);
+  void Beep();
   void PrintForm();
   void Show();
   void Hide();

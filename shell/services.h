@@ -23,6 +23,8 @@ class MessageService {
   virtual void Show(std::string_view text, Icon icon, std::string_view title) = 0;
   // The box of an untrapped run-time error, shown just before the end.
   virtual void ShowFatal(std::string_view words) = 0;
+  // The system beep.
+  virtual void Beep() {}
 };
 
 class PrintService {

@@ -6,12 +6,12 @@ namespace orv {
 
 namespace {
 
-constexpr int kColW = 176;
+constexpr int kColW = 210;
 constexpr int kBtnH = 30;
-constexpr int kStep = 36;
-constexpr int kTop = 44;
-constexpr int kLeft = 16;
-constexpr int kRight = 428;
+constexpr int kStep = 37;
+constexpr int kTop = 46;
+constexpr int kLeft = 20;
+constexpr int kRight = 530;
 
 constexpr Rect Left(int row) { return {kLeft, kTop + row * kStep, kColW, kBtnH}; }
 constexpr Rect Right(int row) { return {kRight, kTop + row * kStep, kColW, kBtnH}; }
@@ -29,9 +29,9 @@ constexpr ControlSpec kControls[] = {
     {Kind::Button, "cmdPeriodic", "Tables", Left(8)},
     {Kind::Button, "cmdCalculator", "Calculator", Left(9), "Loads Windows calculator"},
     {Kind::Button, "cmdUserManual", "Help", Left(10)},
-    {Kind::Image, "imgMain", "", {208, 44, 204, 204}},
-    {Kind::Label, "lblTitle", "Orvanta", {208, 262, 204, 34}, {}, {}, -1, kBold | kLarge | kCenter},
-    {Kind::Label, "lblSubtitle", "The Problem-Solving Assistant\nfor Chemistry Students", {208, 298, 204, 40}, {}, {},
+    {Kind::Image, "imgMain", "", {270, 56, 220, 220}},
+    {Kind::Label, "lblTitle", "Orvanta", {250, 290, 260, 36}, {}, {}, -1, kBold | kLarge | kCenter},
+    {Kind::Label, "lblSubtitle", "The Problem-Solving Assistant\nfor Chemistry Students", {250, 330, 260, 44}, {}, {},
      -1, kCenter},
     {Kind::Label, "lblData", "Reference Data", {kRight, 14, kColW, 24}, {}, {}, -1, kBold | kCenter},
     {Kind::Button, "cmdConstants", "Physical Constants", Right(0)},
@@ -197,7 +197,7 @@ constexpr std::array kRoutes = {
 }  // namespace
 
 frmMain::frmMain(Program& program)
-    : Form(program, {"frmMain", "Halveron Software - Orvanta", 620, 420, kFormMain}, kControls) {
+    : Form(program, {"frmMain", "Halveron Software - Orvanta", 760, 470, kFormMain}, kControls) {
   for (const Route& r : kRoutes) {
     On(r.control, Ev::Click, [this, target = r.target](EventArgs&) { ShowForm(target); });
   }

@@ -1,0 +1,129 @@
+// orvanta-bench: figures for scripts/bench, not a test.
+//   orvanta-bench startup   starts the program as main() does and quits once
+//                           the main screen has been painted; prints the
+//                           resident memory at that moment.
+//   orvanta-bench bare      the same for a bare Qt Widgets window.
+//   orvanta-bench sigfig N  times N presses of frmSigfig's Ok, headless.
+
+#include <QApplication>
+#include <QTimer>
+#include <QWidget>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <string>
+
+#include "app/registry.h"
+#include "qtui/qt_view.h"
+
+namespace {
+
+std::chrono::steady_clock::time_point g_start;
+double Ms() {
+  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - g_start).count();
+}
+
+long ResidentKiB() {
+  std::ifstream status("/proc/self/status");
+  std::string line;
+  while (std::getline(status, line)) {
+    if (line.rfind("VmRSS:", 0) == 0) return std::stol(line.substr(6));
+  }
+  return -1;
+}
+
+// Quits the event loop once the watched window has been painted.
+class QuitAfterPaint : public QObject {
+ public:
+  explicit QuitAfterPaint(QString window) : window_(std::move(window)) {}
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint && !done_ && watched->objectName() == window_) {
+      done_ = true;
+      QTimer::singleShot(0, [] {
+        std::printf("painted_ms %.1f\nrss_kib %ld\n", Ms(), ResidentKiB());
+        QCoreApplication::exit(0);
+      });
+    }
+    return QObject::eventFilter(watched, event);
+  }
+
+ private:
+  QString window_;
+  bool done_ = false;
+};
+
+class NoMessages : public orv::MessageService {
+ public:
+  void Show(std::string_view, orv::Icon, std::string_view) override {}
+  void ShowFatal(std::string_view) override {}
+};
+class NoPrinter : public orv::PrintService {
+ public:
+  void PrintImage(orv::Form&) override {}
+};
+class NoLauncher : public orv::LaunchService {
+ public:
+  void LaunchCalculator() override {}
+};
+
+int Startup(int argc, char** argv, bool bare) {
+  g_start = std::chrono::steady_clock::now();
+  QApplication app(argc, argv);
+  std::printf("app_ms %.1f\n", Ms());
+  QApplication::setQuitOnLastWindowClosed(false);
+  // Watches every paint, so that the first one is seen however early it comes.
+  QuitAfterPaint quit(QStringLiteral("frmMain"));
+  app.installEventFilter(&quit);
+  QTimer::singleShot(20000, [] {
+    std::printf("timeout\n");
+    QCoreApplication::exit(1);
+  });
+  if (bare) {
+    QWidget window;
+    window.setObjectName(QStringLiteral("frmMain"));
+    window.resize(760, 490);
+    window.show();
+    return QApplication::exec();
+  }
+  orv::qt::QtView view;
+  orv::qt::QtMessages messages;
+  orv::qt::QtPrinter printer(view);
+  orv::qt::QtLauncher launcher;
+  orv::Program program(orv::AllScreens(), {&messages, &printer, &launcher, &view},
+                       QCoreApplication::applicationDirPath().toStdString());
+  view.SetProgram(&program);
+  program.Start();
+  std::printf("started_ms %.1f\n", Ms());
+  return QApplication::exec();
+}
+
+int Sigfig(long presses) {
+  NoMessages messages;
+  NoPrinter printer;
+  NoLauncher launcher;
+  orv::Program program(orv::AllScreens(), {&messages, &printer, &launcher, nullptr}, "/nonexistent");
+  program.Start();
+  program.UserAction([&] { program.Show("frmSigfig"); });
+  orv::Form* form = program.Find("frmSigfig");
+  program.UserEdit(form->ctl("txtSigfig1"), "1020.0450");
+  orv::Control& ok = form->ctl("cmdOk");
+  const auto start = std::chrono::steady_clock::now();
+  for (long i = 0; i < presses; ++i) program.UserClick(ok);
+  const auto end = std::chrono::steady_clock::now();
+  const double us = std::chrono::duration<double, std::micro>(end - start).count() / static_cast<double>(presses);
+  std::printf("sigfig_ok_us %.3f result %s\n", us, form->ctl("txtSigfig2").Text().c_str());
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc >= 2 && std::strcmp(argv[1], "startup") == 0) return Startup(argc, argv, false);
+  if (argc >= 2 && std::strcmp(argv[1], "bare") == 0) return Startup(argc, argv, true);
+  if (argc >= 2 && std::strcmp(argv[1], "sigfig") == 0) return Sigfig(argc >= 3 ? std::stol(argv[2]) : 100000);
+  std::fprintf(stderr, "usage: orvanta-bench startup|bare|sigfig [N]\n");
+  return 2;
+}

@@ -1,0 +1,239 @@
+#include "formulas/frmWeights.h"
+
+#include "formulas/formula_module.h"
+#include "shell/rich_text.h"
+#include "shell/screens/module1.h"
+
+namespace orv {
+
+namespace {
+
+constexpr int kCompositionBoxes = 6;
+
+// clang-format off
+constexpr ControlSpec kControls[] = {
+    {Kind::Label, "lblWeights1", "Enter Formula", {20, 22, 220, 22}},
+    {Kind::RichText, "RichTextBox1", "", {244, 16, 256, 30}, "Here is an example of an entry: 2Mn(NO3)2.10H20"},
+    {Kind::Label, "lblWeights2", "The weight is", {20, 62, 220, 22}},
+    {Kind::TextBox, "txtWeights2", "", {244, 58, 160, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label1", "One mole of the substance weighs ", {20, 98, 220, 22}},
+    {Kind::TextBox, "Text1", "", {244, 94, 160, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label2", "grams", {412, 98, 88, 22}},
+    {Kind::CheckBox, "chk1", "Check if you want % composition (6 elements  maximum)", {20, 136, 480, 24}},
+    {Kind::TextBox, "txtComposition", "", {20, 166, 72, 26}, {}, {}, 0, kDisabled},
+    {Kind::TextBox, "txtComposition", "", {100, 166, 72, 26}, {}, {}, 1, kDisabled},
+    {Kind::TextBox, "txtComposition", "", {180, 166, 72, 26}, {}, {}, 2, kDisabled},
+    {Kind::TextBox, "txtComposition", "", {260, 166, 72, 26}, {}, {}, 3, kDisabled},
+    {Kind::TextBox, "txtComposition", "", {340, 166, 72, 26}, {}, {}, 4, kDisabled},
+    {Kind::TextBox, "txtComposition", "", {420, 166, 80, 26}, {}, {}, 5, kDisabled},
+    {Kind::CheckBox, "chk2", "Check for % Hydrate", {20, 206, 220, 24}},
+    {Kind::TextBox, "txtHydrate", "", {244, 204, 160, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {20, 252, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {108, 252, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {196, 252, 80, 30}},
+    {Kind::Button, "cmdPrint", "Print", {284, 252, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {468, 254, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+// clang-format on
+
+constexpr std::string_view kHelp =
+    "The molecular weight, as the name implies, is the weight of the molecule. To determine the weight of the "
+    "molecule,  you must add together the weights of all the atoms in that molecule. The first step is to determine "
+    "the number of each kind of atom. That sometimes can be a little confusing. Once  you have the total weight of "
+    "the molecule and the number of each type of atom, you can determine the percentage composition of the "
+    "molecule. It will tell you what percent of the molecule is made up by each type of atom. If the molecule "
+    "contains H2O, you can determine that as well. This is the percent hydrate. It will tell you what percent of "
+    "the molecule is made up of H2O.";
+
+FormulaModule& Formulas(Program& program) { return program.Module<FormulaModule>(); }
+
+bool IsLetter(int c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
+
+// The weight as shown, read back as a number: without its group separators.
+Double ReadBack(std::string_view shown) {
+  std::string plain;
+  for (char ch : shown) {
+    if (ch != ',') plain += ch;
+  }
+  return CDbl(plain);
+}
+
+}  // namespace
+
+frmWeights::frmWeights(Program& program)
+    : CalculatorScreen(program, {"frmWeights", "Molecular Weights", 520, 300}, kControls,
+                       {"frmWeightChoice", "RichTextBox1", kHelp}) {
+  Bind("Form", Ev::Load, &frmWeights::Form_Load);
+  Bind("RichTextBox1", Ev::KeyDown, &frmWeights::RichTextBox1_KeyDown);
+  Bind("RichTextBox1", Ev::KeyPress, &frmWeights::RichTextBox1_KeyPress);
+  Bind("RichTextBox1", Ev::KeyUp, &frmWeights::RichTextBox1_KeyUp);
+  Bind("cmdOk", Ev::Click, &frmWeights::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmWeights::cmdClear_Click);
+  Bind("cmdCancel", Ev::Click, &frmWeights::cmdCancel_Click);
+}
+
+void frmWeights::ResetTypingState() {
+  InCoefficient = true;
+  AfterElement = true;
+  InHydrate = false;
+}
+
+void frmWeights::Form_Load() {
+  FormulaModule& m = Formulas(program());
+  Trapped(kTrapWordsInfo, [&] {
+    ctl("RichTextBox1").SetText("");
+    ctl("txtWeights2").SetText("");
+    m.FormulaText = "";
+    ctl("chk1").SetValue(false);
+    ctl("chk2").SetValue(false);
+    for (int k = 0; k < kCompositionBoxes; ++k) ctl("txtComposition", k).SetText("");
+    ctl("txtHydrate").SetText("");
+    ResetTypingState();
+    HydrateCount = "0";
+    m.FormulaCoefficient = "0";
+    m.ClearWeights();
+    data::FillElements(Store(program()));
+    DisableOkAndPrint();
+  });
+}
+
+// Digits before the first letter or bracket are the coefficient, digits
+// behind an element are lowered, a point is raised and starts the water of a
+// hydrate. Everything else is refused with a beep.
+void frmWeights::RichTextBox1_KeyPress(int& KeyAscii) {
+  FormulaModule& m = Formulas(program());
+  Control& box = ctl("RichTextBox1");
+  const bool digit = KeyAscii >= '0' && KeyAscii <= '9';
+  const std::string c = Chr(KeyAscii);
+  if (digit && InCoefficient) {
+    box.SetSelCharOffset(RichText::kOnLine);
+    m.FormulaCoefficient += c;
+  } else if (digit && InHydrate) {
+    box.SetSelCharOffset(AfterElement ? RichText::kLowered : RichText::kOnLine);
+    HydrateCount += c;
+    m.FormulaText += c;
+  } else if (digit) {
+    box.SetSelCharOffset(RichText::kLowered);
+    m.FormulaText += c;
+  } else if (IsLetter(KeyAscii)) {
+    AfterElement = true;
+    InCoefficient = false;
+    box.SetSelCharOffset(RichText::kOnLine);
+    m.FormulaText += c;
+  } else if (KeyAscii == '.') {
+    InHydrate = true;
+    AfterElement = false;
+    box.SetSelCharOffset(RichText::kRaised);
+    m.FormulaText += c;
+  } else if (KeyAscii == '(' || KeyAscii == ')') {
+    InCoefficient = false;
+    InHydrate = false;
+    box.SetSelCharOffset(RichText::kOnLine);
+    m.FormulaText += c;
+  } else {
+    KeyAscii = 0;
+    Beep();
+  }
+}
+
+// Backspace takes the last character off the collected formula only: its
+// KeyPress is refused, so the box keeps showing it.
+void frmWeights::RichTextBox1_KeyDown(int& KeyCode, int /*Shift*/) {
+  FormulaModule& m = Formulas(program());
+  if (KeyCode == kKeyBack) {
+    if (!m.FormulaText.empty()) m.FormulaText = Left(m.FormulaText, Len(m.FormulaText) - 1);
+  } else if (KeyCode == kKeyReturn) {
+    cmdOk_Click();
+  }
+}
+
+void frmWeights::RichTextBox1_KeyUp(int& /*KeyCode*/, int /*Shift*/) {
+  ctl("RichTextBox1").SetSelCharOffset(RichText::kOnLine);
+}
+
+void frmWeights::Weight(const std::string& Substance, Single& Result) {
+  Trapped(kTrapWordsInfo, [&] {
+    if (const auto weight = data::FindMolecularWeight(Store(program()), Substance)) Result = Single(CDbl(*weight));
+  });
+}
+
+void frmWeights::cmdOk_Click() {
+  FormulaModule& m = Formulas(program());
+  Trapped(kTrapDataEntry, [&] {
+    Control& box = ctl("RichTextBox1");
+    const int L = Len(box.Text());
+    m.ClearWeights();
+    if (box.Text().empty()) {
+      MsgBox("You must enter data into the Enter Formula box.", Icon::None, kTitle);
+      box.SetFocus();
+      return;
+    }
+    if (ctl("chk1").Value() && box.Text().empty()) {
+      MsgBox("A formula must be entered before % composition can be determined.", Icon::None, kTitle);
+      ctl("chk1").SetValue(false);
+      cmdClear_Click();
+      box.SetFocus();
+      return;
+    }
+    if (ctl("chk2").Value() && box.Text().empty()) {
+      MsgBox("A formula must be entered before % hydrate can be determined.", Icon::None, kTitle);
+      ctl("chk2").SetValue(false);
+      cmdClear_Click();
+      box.SetFocus();
+      return;
+    }
+    if (L == 1) {
+      box.SetText("");
+      MsgBox("Formula must be larger than 1 character.", Icon::None, kTitle);
+      cmdClear_Click();
+      return;
+    }
+
+    m.ScanWeights(*this, Store(program()), L, HydrateCount,
+                  [this](const std::string& Substance, Single& Result) { Weight(Substance, Result); });
+    if (CDbl(m.FormulaCoefficient).value() == 0) m.FormulaCoefficient = "1";
+
+    // The weight is rounded to three decimals before the coefficient
+    // multiplies it.
+    const std::string W = FormatNumber(m.FormulaTotal, 3);
+    const Double coefficient = CDbl(m.FormulaCoefficient);
+    const Double P = ReadBack(W) * coefficient;
+    if (coefficient < 2) {
+      ctl("txtWeights2").SetText(W);
+    } else {
+      ctl("txtWeights2").SetText(Str(P));
+    }
+    ctl("Text1").SetText(Str(P));
+
+    // Percent composition and percent hydrate are asked for but never
+    // worked out: the check boxes are read and that is all.
+    [[maybe_unused]] const bool composition = ctl("chk1").Value();
+    [[maybe_unused]] const bool hydrate = ctl("chk2").Value();
+    m.ClearWeights();
+  });
+}
+
+void frmWeights::cmdClear_Click() {
+  FormulaModule& m = Formulas(program());
+  ctl("RichTextBox1").SetText("");
+  ctl("txtWeights2").SetText("");
+  ctl("Text1").SetText("");
+  m.FormulaText = "";
+  ctl("chk1").SetValue(false);
+  ctl("chk2").SetValue(false);
+  for (int k = 0; k < kCompositionBoxes; ++k) ctl("txtComposition", k).SetText("");
+  ctl("txtHydrate").SetText("");
+  ResetTypingState();
+  HydrateCount = "0";
+  m.FormulaCoefficient = "0";
+  m.ClearWeights();
+  ctl("RichTextBox1").SetFocus();
+}
+
+void frmWeights::cmdCancel_Click() {
+  Formulas(program()).ClearWeights();
+  Unload();
+  ShowForm("frmWeightChoice");
+}
+
+}  // namespace orv

@@ -1,0 +1,51 @@
+#pragma once
+// The rich text box: one line of text whose characters stand on the line,
+// lowered (subscript) or raised (superscript), as the control's offsets say.
+// The runtime edits the text; this widget only shows it, and tells of the
+// caret and of edits that bypass the keys (pasting, dropping).
+
+#include <QTextEdit>
+#include <functional>
+#include <vector>
+
+namespace orv {
+class Control;
+}
+
+namespace orv::qt {
+
+class RichTextWidget : public QTextEdit {
+ public:
+  explicit RichTextWidget(QWidget* parent);
+
+  // Shows the control's text, its characters' offsets and its caret.
+  void ShowControl(const Control& c);
+
+  // The offsets of the characters shown, read back from the document: the
+  // box's units for lowered, on the line and raised.
+  std::vector<int> ShownOffsets() const;
+
+  // The caret as the user left it, in characters.
+  int SelectionStart() const;
+  int SelectionLength() const;
+
+  // Called when the user changed the text other than by typing, and when the
+  // user moved the caret.
+  std::function<void(const QString&)> onEdited;
+  std::function<void(int start, int length)> onCaret;
+
+ protected:
+  void resizeEvent(QResizeEvent* e) override;
+  void changeEvent(QEvent* e) override;
+
+ private:
+  // Centres the line in the box's height.
+  void PlaceLine();
+  // Tells of an edit that the user made to the text shown, if any.
+  void ReportEdit();
+
+  bool showing_ = false;
+  QString shownText_;
+};
+
+}  // namespace orv::qt
