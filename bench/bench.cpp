@@ -20,9 +20,7 @@
 namespace {
 
 std::chrono::steady_clock::time_point g_start;
-double Ms() {
-  return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - g_start).count();
-}
+double Ms() { return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - g_start).count(); }
 
 long ResidentKiB() {
   std::ifstream status("/proc/self/status");

@@ -128,11 +128,23 @@ Key ToKey(const QKeyEvent& e) {
   if (m & Qt::AltModifier) k.shift |= kAltMask;
   switch (q) {
     case Qt::Key_Return:
-    case Qt::Key_Enter: k.code = kKeyReturn; k.ascii = 13; return k;
-    case Qt::Key_Escape: k.code = kKeyEscape; k.ascii = 27; return k;
-    case Qt::Key_Backspace: k.code = kKeyBack; k.ascii = 8; return k;
+    case Qt::Key_Enter:
+      k.code = kKeyReturn;
+      k.ascii = 13;
+      return k;
+    case Qt::Key_Escape:
+      k.code = kKeyEscape;
+      k.ascii = 27;
+      return k;
+    case Qt::Key_Backspace:
+      k.code = kKeyBack;
+      k.ascii = 8;
+      return k;
     case Qt::Key_Tab: k.code = kKeyTab; return k;
-    case Qt::Key_Backtab: k.code = kKeyTab; k.shift |= kShiftMask; return k;
+    case Qt::Key_Backtab:
+      k.code = kKeyTab;
+      k.shift |= kShiftMask;
+      return k;
     case Qt::Key_Delete: k.code = kKeyDelete; return k;
     case Qt::Key_Left: k.code = kKeyLeft; return k;
     case Qt::Key_Right: k.code = kKeyRight; return k;
@@ -523,8 +535,8 @@ bool QtView::eventFilter(QObject* watched, QEvent* event) {
       Form* form = control != nullptr ? &control->form() : FormOf(watched);
       if (form == nullptr) return false;
       // A key that a control passed on to its window is not a second key.
-      if (control == nullptr && QApplication::focusWidget() != nullptr &&
-          QApplication::focusWidget() != watched && ControlOf(QApplication::focusWidget()) != nullptr) {
+      if (control == nullptr && QApplication::focusWidget() != nullptr && QApplication::focusWidget() != watched &&
+          ControlOf(QApplication::focusWidget()) != nullptr) {
         return false;
       }
       const bool taken = program_->UserKey(*form, control, ToKey(*key));
@@ -555,8 +567,7 @@ bool QtView::eventFilter(QObject* watched, QEvent* event) {
       DoubleClicked(*control);
       return true;
     }
-    default:
-      return false;
+    default: return false;
   }
 }
 
@@ -598,8 +609,8 @@ void QtPrinter::PrintImage(Form& form) {
 }
 
 void QtLauncher::LaunchCalculator() {
-  static const char* const kCalculators[] = {"gnome-calculator", "kcalc",         "mate-calc",  "galculator",
-                                             "qalculate-gtk",    "qalculate-qt",  "speedcrunch", "xcalc"};
+  static const char* const kCalculators[] = {"gnome-calculator", "kcalc",        "mate-calc",   "galculator",
+                                             "qalculate-gtk",    "qalculate-qt", "speedcrunch", "xcalc"};
   for (const char* name : kCalculators) {
     const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
     if (!path.isEmpty() && QProcess::startDetached(path, {})) return;

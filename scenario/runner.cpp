@@ -103,10 +103,18 @@ Target ParseTarget(const std::string& s) {
 // Splits typed text into keys: characters, and {Name} for the named keys.
 std::vector<Key> ParseKeys(const std::string& text) {
   static const std::pair<const char*, Key> kNamed[] = {
-      {"Enter", {kKeyReturn, 13, 0}},  {"Esc", {kKeyEscape, 27, 0}}, {"Backspace", {kKeyBack, 8, 0}},
-      {"Delete", {kKeyDelete, 0, 0}},  {"F1", {kKeyF1, 0, 0}},       {"Tab", {kKeyTab, 0, 0}},
-      {"Shift+Tab", {kKeyTab, 0, kShiftMask}}, {"Left", {kKeyLeft, 0, 0}}, {"Right", {kKeyRight, 0, 0}},
-      {"Home", {kKeyHome, 0, 0}},      {"End", {kKeyEnd, 0, 0}},     {"Ctrl+V", {'V', 22, kCtrlMask}},
+      {"Enter", {kKeyReturn, 13, 0}},
+      {"Esc", {kKeyEscape, 27, 0}},
+      {"Backspace", {kKeyBack, 8, 0}},
+      {"Delete", {kKeyDelete, 0, 0}},
+      {"F1", {kKeyF1, 0, 0}},
+      {"Tab", {kKeyTab, 0, 0}},
+      {"Shift+Tab", {kKeyTab, 0, kShiftMask}},
+      {"Left", {kKeyLeft, 0, 0}},
+      {"Right", {kKeyRight, 0, 0}},
+      {"Home", {kKeyHome, 0, 0}},
+      {"End", {kKeyEnd, 0, 0}},
+      {"Ctrl+V", {'V', 22, kCtrlMask}},
   };
   std::vector<Key> keys;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -148,11 +156,16 @@ std::string IconName(Icon icon) {
 std::string Quote(const std::string& s) {
   std::string out = "\"";
   for (char c : s) {
-    if (c == '\n') out += "\\n";
-    else if (c == '\r') out += "\\r";
-    else if (c == '"') out += "\\\"";
-    else if (c == '\\') out += "\\\\";
-    else out += c;
+    if (c == '\n')
+      out += "\\n";
+    else if (c == '\r')
+      out += "\\r";
+    else if (c == '"')
+      out += "\\\"";
+    else if (c == '\\')
+      out += "\\\\";
+    else
+      out += c;
   }
   return out + "\"";
 }
@@ -335,10 +348,14 @@ void Run::Start(const std::vector<Token>& t) {
   if (program_) Fail("start given twice");
   bool db = true, printer = true, calculator = true;
   for (std::size_t i = 1; i < t.size(); ++i) {
-    if (t[i].text == "nodb") db = false;
-    else if (t[i].text == "noprinter") printer = false;
-    else if (t[i].text == "nocalculator") calculator = false;
-    else Fail("unknown start modifier " + t[i].text);
+    if (t[i].text == "nodb")
+      db = false;
+    else if (t[i].text == "noprinter")
+      printer = false;
+    else if (t[i].text == "nocalculator")
+      calculator = false;
+    else
+      Fail("unknown start modifier " + t[i].text);
   }
   if (options_.qt) {
     view_ = std::make_unique<qt::QtView>();
@@ -351,9 +368,8 @@ void Run::Start(const std::vector<Token>& t) {
   // Without the database the program looks for it in a folder that lacks it.
   std::string dir = options_.exeDir;
   if (!db) dir = (std::filesystem::temp_directory_path() / "orvanta-no-database").string();
-  program_ = std::make_unique<Program>(AllScreens(), Program::Services{messages_.get(), printer_.get(),
-                                                                        launcher_.get(), view_.get()},
-                                       dir);
+  program_ = std::make_unique<Program>(
+      AllScreens(), Program::Services{messages_.get(), printer_.get(), launcher_.get(), view_.get()}, dir);
   if (view_) view_->SetProgram(program_.get());
   program_->Start();
   Settle();
@@ -384,8 +400,10 @@ void Run::FocusForTyping(Control& c) {
 
 void Run::Click(Control& c, bool twice) {
   if (!options_.qt) {
-    if (twice) P().UserDblClick(c);
-    else P().UserClick(c);
+    if (twice)
+      P().UserDblClick(c);
+    else
+      P().UserClick(c);
     return;
   }
   if (c.kind() == Kind::Menu) {
@@ -397,8 +415,8 @@ void Run::Click(Control& c, bool twice) {
     // Option buttons and check boxes answer clicks on their mark and caption
     // only; click on the mark.
     QWidget* w = W(c);
-    const QPoint at = (c.kind() == Kind::Option || c.kind() == Kind::CheckBox) ? QPoint(8, w->height() / 2)
-                                                                                : w->rect().center();
+    const QPoint at =
+        (c.kind() == Kind::Option || c.kind() == Kind::CheckBox) ? QPoint(8, w->height() / 2) : w->rect().center();
     if (twice) {
       QTest::mouseDClick(w, Qt::LeftButton, {}, at);
     } else {
@@ -436,8 +454,7 @@ void Run::Type(Control& c, const std::string& text) {
       case kKeyRight: QTest::keyClick(target, Qt::Key_Right, mods); break;
       case kKeyHome: QTest::keyClick(target, Qt::Key_Home, mods); break;
       case kKeyEnd: QTest::keyClick(target, Qt::Key_End, mods); break;
-      default:
-      {
+      default: {
         // Qt's key for a character is its capital's code (Key_Period is '.').
         const QString ch(QChar(k.ascii));
         const int key = (k.shift & kCtrlMask) ? k.code : ch.toUpper().at(0).unicode();
@@ -630,7 +647,8 @@ void Run::ExpectForm(const std::string& name, const std::vector<Token>& t) {
   if (options_.qt && f != nullptr && window == nullptr) Fail(name + " has no window");
   if (what == "loaded" && f == nullptr) Fail(name + " is not loaded");
   if (what == "unloaded" && f != nullptr) Fail(name + " is loaded");
-  if (what == "visible" && (f == nullptr || !(window ? window->isVisible() : f->Visible()))) Fail(name + " is not visible");
+  if (what == "visible" && (f == nullptr || !(window ? window->isVisible() : f->Visible())))
+    Fail(name + " is not visible");
   if (what == "hidden" && f != nullptr && (window ? window->isVisible() : f->Visible())) Fail(name + " is visible");
   if (what == "caption") {
     if (f == nullptr) Fail(name + " is not loaded");
@@ -654,8 +672,10 @@ void Run::Expect(const std::vector<Token>& t) {
     if (b.text != t[2].text) Fail("message box says " + Quote(b.text) + ", expected " + Quote(t[2].text));
     for (std::size_t i = 3; i < t.size(); ++i) {
       const std::string& a = t[i].text;
-      if (a.rfind("icon=", 0) == 0 && a.substr(5) != b.icon) Fail("message box icon is " + b.icon + ", expected " + a.substr(5));
-      if (a.rfind("title=", 0) == 0 && a.substr(6) != b.title) Fail("message box title is " + Quote(b.title) + ", expected " + Quote(a.substr(6)));
+      if (a.rfind("icon=", 0) == 0 && a.substr(5) != b.icon)
+        Fail("message box icon is " + b.icon + ", expected " + a.substr(5));
+      if (a.rfind("title=", 0) == 0 && a.substr(6) != b.title)
+        Fail("message box title is " + Quote(b.title) + ", expected " + Quote(a.substr(6)));
       if (a.rfind("icon=", 0) != 0 && a.rfind("title=", 0) != 0) Fail("unknown message box property " + a);
     }
     return;
@@ -685,7 +705,8 @@ void Run::Expect(const std::vector<Token>& t) {
     if (!P().Ended()) Fail("the program has not ended");
     if (t.size() >= 3) {
       if (!P().EndedOnError()) Fail("the program ended without an error");
-      if (P().EndWords() != t[2].text) Fail("the program ended on " + Quote(P().EndWords()) + ", expected " + Quote(t[2].text));
+      if (P().EndWords() != t[2].text)
+        Fail("the program ended on " + Quote(P().EndWords()) + ", expected " + Quote(t[2].text));
     } else if (P().EndedOnError()) {
       Fail("the program ended on " + Quote(P().EndWords()));
     }
@@ -727,13 +748,16 @@ bool Run::Step(const std::vector<Token>& t) {
   } else if (verb == "type" || verb == "paste") {
     if (t.size() != 3 || !t[2].quoted) Fail(verb + " FORM.CTRL \"text\"");
     Control& c = Ctl(ParseTarget(t[1].text));
-    if (verb == "type") Type(c, t[2].text);
-    else Paste(c, t[2].text);
+    if (verb == "type")
+      Type(c, t[2].text);
+    else
+      Paste(c, t[2].text);
   } else if (verb == "snapshot") {
     // Saves the window's image, through the widgets only: for looking at a screen.
     if (t.size() != 3 || !t[2].quoted) Fail("snapshot FORM \"file.png\"");
     Form& f = LoadedForm(t[1].text);
-    if (options_.qt && !qt::GrabForm(*view_, f).save(QString::fromStdString(t[2].text))) Fail("cannot save " + t[2].text);
+    if (options_.qt && !qt::GrabForm(*view_, f).save(QString::fromStdString(t[2].text)))
+      Fail("cannot save " + t[2].text);
   } else if (verb == "select") {
     if (t.size() != 3) Fail("select FORM.CTRL N");
     Select(Ctl(ParseTarget(t[1].text)), std::stoi(t[2].text));

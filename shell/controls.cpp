@@ -13,22 +13,22 @@
 
 namespace orv {
 
-Control::Control(Form& form, const ControlSpec& spec)
+Control::Control(Form& form, const ControlSpec& design)
     : form_(&form),
-      kind_(spec.kind),
-      name_(spec.name),
-      index_(spec.index),
-      rect_(spec.rect),
-      container_(spec.container),
-      flags_(spec.flags),
-      filter_(spec.filter),
-      shortcut_(spec.shortcut),
-      text_(spec.caption),
-      toolTip_(spec.toolTip),
-      enabled_((spec.flags & kDisabled) == 0),
-      visible_((spec.flags & kHidden) == 0),
-      isDefault_((spec.flags & kDefault) != 0),
-      isCancel_((spec.flags & kCancel) != 0) {
+      kind_(design.kind),
+      name_(design.name),
+      index_(design.index),
+      rect_(design.rect),
+      container_(design.container),
+      flags_(design.flags),
+      filter_(design.filter),
+      shortcut_(design.shortcut),
+      text_(design.caption),
+      toolTip_(design.toolTip),
+      enabled_((design.flags & kDisabled) == 0),
+      visible_((design.flags & kHidden) == 0),
+      isDefault_((design.flags & kDefault) != 0),
+      isCancel_((design.flags & kCancel) != 0) {
   if (kind_ == Kind::Picture) {
     picture_ = std::make_shared<Picture>();
     picture_->onChange = [this] { Notify(Prop::Content); };

@@ -75,7 +75,7 @@ enum class Prop { Text, Enabled, Visible, Value, ToolTip, List, ListIndex, Selec
 
 class Control {
  public:
-  Control(Form& form, const ControlSpec& spec);
+  Control(Form& form, const ControlSpec& design);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 

@@ -18,16 +18,19 @@ bool CanFocus(const Control& c) {
     case Kind::CheckBox:
     case Kind::ListBox:
     case Kind::RichText:
-    case Kind::Tree:
-      return c.TakesInput();
-    default:
-      return false;
+    case Kind::Tree: return c.TakesInput();
+    default: return false;
   }
 }
 }  // namespace
 
-Form::Form(Program& program, const FormSpec& spec, std::span<const ControlSpec> controls)
-    : program_(&program), name_(spec.name), caption_(spec.caption), width_(spec.width), height_(spec.height), style_(spec.style) {
+Form::Form(Program& program, const FormSpec& design, std::span<const ControlSpec> controls)
+    : program_(&program),
+      name_(design.name),
+      caption_(design.caption),
+      width_(design.width),
+      height_(design.height),
+      style_(design.style) {
   controls_.reserve(controls.size());
   for (const ControlSpec& c : controls) {
     controls_.push_back(std::make_unique<Control>(*this, c));
@@ -73,9 +76,7 @@ Control* Form::CancelButton() const {
   return nullptr;
 }
 
-void Form::On(std::string_view control, Ev ev, Handler h) {
-  handlers_[{std::string(control), ev}] = std::move(h);
-}
+void Form::On(std::string_view control, Ev ev, Handler h) { handlers_[{std::string(control), ev}] = std::move(h); }
 
 bool Form::HasHandler(std::string_view control, Ev ev) const {
   return handlers_.find(std::pair<std::string, Ev>(std::string(control), ev)) != handlers_.end();

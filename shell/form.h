@@ -48,9 +48,9 @@ struct EventArgs {
 };
 
 enum FormStyle : unsigned {
-  kFormFixed = 0,       // a fixed-size window with a title bar
-  kFormSplash = 1,      // borderless, centred, above the main screen
-  kFormMain = 2,        // the main screen: menu bar, closing it ends the program
+  kFormFixed = 0,   // a fixed-size window with a title bar
+  kFormSplash = 1,  // borderless, centred, above the main screen
+  kFormMain = 2,    // the main screen: menu bar, closing it ends the program
 };
 
 struct FormSpec {
@@ -63,7 +63,7 @@ struct FormSpec {
 
 class Form {
  public:
-  Form(Program& program, const FormSpec& spec, std::span<const ControlSpec> controls);
+  Form(Program& program, const FormSpec& design, std::span<const ControlSpec> controls);
   virtual ~Form();
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -156,9 +156,8 @@ class Form {
   }
   template <class Self>
   void Bind(std::string_view control, Ev ev, void (Self::*fn)(int&)) {
-    On(control, ev, [this, fn, ev](EventArgs& a) {
-      (static_cast<Self*>(this)->*fn)(ev == Ev::KeyPress ? a.keyAscii : a.keyCode);
-    });
+    On(control, ev,
+       [this, fn, ev](EventArgs& a) { (static_cast<Self*>(this)->*fn)(ev == Ev::KeyPress ? a.keyAscii : a.keyCode); });
   }
   template <class Self>
   void Bind(std::string_view control, Ev ev, void (Self::*fn)(int&, int)) {

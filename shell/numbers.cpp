@@ -148,8 +148,7 @@ Decimal Significant(double value, int precision) {
   if (value == 0.0) return d;
   d.negative = std::signbit(value);
   char buf[64];
-  const auto res = std::to_chars(buf, buf + sizeof buf, std::fabs(value),
-                                 std::chars_format::scientific, precision - 1);
+  const auto res = std::to_chars(buf, buf + sizeof buf, std::fabs(value), std::chars_format::scientific, precision - 1);
   const std::string_view s(buf, static_cast<std::size_t>(res.ptr - buf));  // "d.ddde+XX"
   const std::size_t e = s.find('e');
   for (std::size_t i = 0; i < e; ++i) {
@@ -224,11 +223,11 @@ std::string ShortestText(double value, int p) {
 
 // The layout of a digit-placeholder pattern such as "#,##0.00".
 struct Layout {
-  int minInt = 0;     // integer digits always shown (zero padded)
-  bool group = false; // "," between thousands
-  bool point = false; // the point is written, even with no decimals behind it
-  int minFrac = 0;    // decimals always shown
-  int maxFrac = 0;    // decimals at most; the value is rounded there
+  int minInt = 0;      // integer digits always shown (zero padded)
+  bool group = false;  // "," between thousands
+  bool point = false;  // the point is written, even with no decimals behind it
+  int minFrac = 0;     // decimals always shown
+  int maxFrac = 0;     // decimals at most; the value is rounded there
 };
 
 // Fixed notation of form-2 digits, rounded half away from zero to
@@ -382,12 +381,8 @@ std::string Str(Integer x) { return std::to_string(x.value()); }
 std::string FormatNumber(Single x, int n) { return FormatNumberText(x.value(), kSingleDigits, n); }
 std::string FormatNumber(Double x, int n) { return FormatNumberText(x.value(), kDoubleDigits, n); }
 
-std::string Format(Single x, std::string_view pattern) {
-  return FormatPattern(x.value(), kSingleDigits, pattern);
-}
-std::string Format(Double x, std::string_view pattern) {
-  return FormatPattern(x.value(), kDoubleDigits, pattern);
-}
+std::string Format(Single x, std::string_view pattern) { return FormatPattern(x.value(), kSingleDigits, pattern); }
+std::string Format(Double x, std::string_view pattern) { return FormatPattern(x.value(), kDoubleDigits, pattern); }
 
 std::string Str(const Variant& v) {
   if (v.IsNumber()) return Str(Double(Expr(v.Number())));

@@ -60,7 +60,7 @@ Expr Exp(Expr a);
 class Single {
  public:
   Single() = default;
-  Single(Expr e);  // NOLINT: assignment from an expression is the store
+  Single(Expr e);                        // NOLINT: assignment from an expression is the store
   Single(double v) : Single(Expr(v)) {}  // NOLINT
   float value() const { return v_; }
   operator Expr() const { return Expr(v_); }  // NOLINT
@@ -73,7 +73,7 @@ class Single {
 class Double {
  public:
   Double() = default;
-  Double(Expr e);  // NOLINT
+  Double(Expr e);                        // NOLINT
   Double(double v) : Double(Expr(v)) {}  // NOLINT
   double value() const { return v_; }
   operator Expr() const { return Expr(v_); }  // NOLINT
@@ -87,7 +87,7 @@ class Double {
 class Integer {
  public:
   Integer() = default;
-  Integer(Expr e);  // NOLINT
+  Integer(Expr e);                         // NOLINT
   Integer(double v) : Integer(Expr(v)) {}  // NOLINT
   std::int16_t value() const { return v_; }
   operator Expr() const { return Expr(v_); }  // NOLINT

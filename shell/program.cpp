@@ -186,11 +186,16 @@ int KeyCodeOfChar(int ascii) {
     case 8: return kKeyBack;
     case 13: return kKeyReturn;
     case 27: return kKeyEscape;
-    case '+': case '=': return 187;
-    case ',': case '<': return 188;
-    case '-': case '_': return 189;
-    case '.': case '>': return 190;
-    case '/': case '?': return 191;
+    case '+':
+    case '=': return 187;
+    case ',':
+    case '<': return 188;
+    case '-':
+    case '_': return 189;
+    case '.':
+    case '>': return 190;
+    case '/':
+    case '?': return 191;
     case 22: return 'V';
     default: return 0;
   }
@@ -247,20 +252,11 @@ bool Program::EditBox(Control& box, const Key& key) {
       box.form().Fire(&box, Ev::Change);
       return true;
     }
-    case kKeyLeft:
-      box.SetSelection(box.SelLength() > 0 ? start : std::max(start - 1, 0), 0);
-      return true;
-    case kKeyRight:
-      box.SetSelection(box.SelLength() > 0 ? end : std::min(start + 1, n), 0);
-      return true;
-    case kKeyHome:
-      box.SetSelection(0, 0);
-      return true;
-    case kKeyEnd:
-      box.SetSelection(n, 0);
-      return true;
-    default:
-      return false;
+    case kKeyLeft: box.SetSelection(box.SelLength() > 0 ? start : std::max(start - 1, 0), 0); return true;
+    case kKeyRight: box.SetSelection(box.SelLength() > 0 ? end : std::min(start + 1, n), 0); return true;
+    case kKeyHome: box.SetSelection(0, 0); return true;
+    case kKeyEnd: box.SetSelection(n, 0); return true;
+    default: return false;
   }
 }
 
@@ -305,6 +301,9 @@ bool Program::UserKey(Form& form, Control* focus, const Key& key) {
       press.keyAscii = key.ascii;
       form.FireForm(Ev::KeyPress, press);
       if (!form.Loaded()) return;
+      // Esc is the screen's key: with no cancel button to press, it reaches
+      // the screen's own KeyPress and nothing else.
+      if (press.keyAscii == kKeyEscape) press.keyAscii = 0;
       if (focus != nullptr && press.keyAscii != 0) {
         form.Fire(focus, Ev::KeyPress, press);
         if (focus->filter() != nullptr) focus->filter()->Apply(form, press.keyAscii);
@@ -347,9 +346,7 @@ void Program::UserClick(Control& control) {
         control.SetFocus();
         form.Fire(&control, Ev::Click);
         break;
-      default:
-        form.Fire(&control, Ev::Click);
-        break;
+      default: form.Fire(&control, Ev::Click); break;
     }
   });
 }

@@ -19,19 +19,24 @@ int Rows(std::size_t n) { return static_cast<int>((n + static_cast<std::size_t>(
 int Width(std::size_t n) { return 2 * kMargin + Columns(n) * kButtonW + (Columns(n) - 1) * kColumnGap; }
 int Height(std::size_t n) { return 2 * kMargin + Rows(n) * kStep + 14 + kButtonH; }
 
-std::vector<ControlSpec> ButtonControls(const ChoiceSpec& spec) {
+std::vector<ControlSpec> ButtonControls(const ChoiceSpec& design) {
   std::vector<ControlSpec> out;
-  const std::size_t n = spec.buttons.size();
+  const std::size_t n = design.buttons.size();
   const int rows = Rows(n);
   for (std::size_t i = 0; i < n; ++i) {
     const int col = static_cast<int>(i) / rows;
     const int row = static_cast<int>(i) % rows;
-    out.push_back({Kind::Button, spec.buttons[i].control, spec.buttons[i].caption,
+    out.push_back({Kind::Button,
+                   design.buttons[i].control,
+                   design.buttons[i].caption,
                    {kMargin + col * (kButtonW + kColumnGap), kMargin + row * kStep, kButtonW, kButtonH}});
   }
   const int closerW = 96;
-  out.push_back({Kind::Button, spec.closer, spec.closerCaption,
-                 {Width(n) - kMargin - closerW, kMargin + rows * kStep + 14, closerW, kButtonH}, spec.closerToolTip});
+  out.push_back({Kind::Button,
+                 design.closer,
+                 design.closerCaption,
+                 {Width(n) - kMargin - closerW, kMargin + rows * kStep + 14, closerW, kButtonH},
+                 design.closerToolTip});
   return out;
 }
 
@@ -117,10 +122,8 @@ constexpr ChoiceSpec kChoiceScreens[] = {
 };
 
 constexpr std::array kAtomicData = {
-    OptionChoice{"opt1", "Atomic Radii", "frmRadii"},
-    OptionChoice{"opt2", "Bond Lengths", "frmBonds"},
-    OptionChoice{"opt3", "Electron Affinities", ""},
-    OptionChoice{"opt4", "Bond Characters", ""},
+    OptionChoice{"opt1", "Atomic Radii", "frmRadii"}, OptionChoice{"opt2", "Bond Lengths", "frmBonds"},
+    OptionChoice{"opt3", "Electron Affinities", ""},  OptionChoice{"opt4", "Bond Characters", ""},
     OptionChoice{"opt5", "Half Lives", ""},
 };
 constexpr std::array kMiscellaneous = {
@@ -136,36 +139,35 @@ constexpr OptionChoiceSpec kOptionScreens[] = {
 
 constexpr int kOptionH = 28;
 
-std::vector<ControlSpec> OptionControls(const OptionChoiceSpec& spec) {
+std::vector<ControlSpec> OptionControls(const OptionChoiceSpec& design) {
   std::vector<ControlSpec> out;
-  const int n = static_cast<int>(spec.options.size());
+  const int n = static_cast<int>(design.options.size());
   const int frameH = 34 + n * kOptionH;
-  out.push_back({Kind::Frame, "Frame1", spec.frameCaption, {kMargin, kMargin, 260, frameH}, spec.frameToolTip});
+  out.push_back({Kind::Frame, "Frame1", design.frameCaption, {kMargin, kMargin, 260, frameH}, design.frameToolTip});
   for (int i = 0; i < n; ++i) {
-    const OptionChoice& o = spec.options[static_cast<std::size_t>(i)];
+    const OptionChoice& o = design.options[static_cast<std::size_t>(i)];
     out.push_back({Kind::Option, o.control, o.caption, {16, 26 + i * kOptionH, 228, 24}, {}, "Frame1"});
   }
   const int y = kMargin + frameH + 14;
-  out.push_back({Kind::Button, "cmdOk", "Ok", {kMargin + 260 - 2 * 96 - 8, y, 96, kButtonH}, spec.okToolTip});
-  out.push_back({Kind::Button, "cmdCancel", "Cancel", {kMargin + 260 - 96, y, 96, kButtonH}, spec.cancelToolTip});
+  out.push_back({Kind::Button, "cmdOk", "Ok", {kMargin + 260 - 2 * 96 - 8, y, 96, kButtonH}, design.okToolTip});
+  out.push_back({Kind::Button, "cmdCancel", "Cancel", {kMargin + 260 - 96, y, 96, kButtonH}, design.cancelToolTip});
   return out;
 }
 
 }  // namespace
 
-ChoiceScreen::ChoiceScreen(Program& program, const ChoiceSpec& spec)
-    : Form(program,
-           {spec.name, spec.caption, Width(spec.buttons.size()), Height(spec.buttons.size())},
-           ButtonControls(spec)),
-      spec_(spec) {
+ChoiceScreen::ChoiceScreen(Program& program, const ChoiceSpec& design)
+    : Form(program, {design.name, design.caption, Width(design.buttons.size()), Height(design.buttons.size())},
+           ButtonControls(design)),
+      design_(design) {
   Bind("Form", Ev::Load, &ChoiceScreen::Form_Load);
-  for (const ChoiceButton& b : spec.buttons) {
+  for (const ChoiceButton& b : design.buttons) {
     if (!b.target.empty()) On(b.control, Ev::Click, [this, &b](EventArgs&) { Go(b); });
   }
-  Bind(spec.closer, Ev::Click, &ChoiceScreen::Close_Click);
+  Bind(design.closer, Ev::Click, &ChoiceScreen::Close_Click);
 }
 
-void ChoiceScreen::Form_Load() { ctl(spec_.buttons.front().control).SetDefault(true); }
+void ChoiceScreen::Form_Load() { ctl(design_.buttons.front().control).SetDefault(true); }
 
 void ChoiceScreen::Go(const ChoiceButton& button) {
   switch (button.leave) {
@@ -178,15 +180,15 @@ void ChoiceScreen::Go(const ChoiceButton& button) {
 
 void ChoiceScreen::Close_Click() {
   Unload();
-  if (spec_.closerShowsMain) ShowForm("frmMain");
+  if (design_.closerShowsMain) ShowForm("frmMain");
 }
 
-OptionChoiceScreen::OptionChoiceScreen(Program& program, const OptionChoiceSpec& spec)
+OptionChoiceScreen::OptionChoiceScreen(Program& program, const OptionChoiceSpec& design)
     : Form(program,
-           {spec.name, spec.caption, 2 * kMargin + 260,
-            2 * kMargin + 34 + static_cast<int>(spec.options.size()) * kOptionH + 14 + kButtonH},
-           OptionControls(spec)),
-      spec_(spec) {
+           {design.name, design.caption, 2 * kMargin + 260,
+            2 * kMargin + 34 + static_cast<int>(design.options.size()) * kOptionH + 14 + kButtonH},
+           OptionControls(design)),
+      design_(design) {
   Bind("Form", Ev::Load, &OptionChoiceScreen::Form_Load);
   Bind("cmdOk", Ev::Click, &OptionChoiceScreen::cmdOk_Click);
   Bind("cmdCancel", Ev::Click, &OptionChoiceScreen::cmdCancel_Click);
@@ -198,7 +200,7 @@ void OptionChoiceScreen::Form_Load() {
 }
 
 void OptionChoiceScreen::cmdOk_Click() {
-  for (const OptionChoice& o : spec_.options) {
+  for (const OptionChoice& o : design_.options) {
     if (!ctl(o.control).Value()) continue;
     // The first selected option decides; one without a screen does nothing.
     if (!o.target.empty()) {
@@ -211,18 +213,18 @@ void OptionChoiceScreen::cmdOk_Click() {
 
 void OptionChoiceScreen::cmdCancel_Click() {
   Unload();
-  if (spec_.cancelShowsMain) ShowForm("frmMain");
+  if (design_.cancelShowsMain) ShowForm("frmMain");
 }
 
 void RegisterChoiceScreens(ScreenRegistry& r) {
-  for (const ChoiceSpec& spec : kChoiceScreens) {
-    r.screens[std::string(spec.name)] = [&spec](Program& p) -> std::unique_ptr<Form> {
-      return std::make_unique<ChoiceScreen>(p, spec);
+  for (const ChoiceSpec& design : kChoiceScreens) {
+    r.screens[std::string(design.name)] = [&design](Program& p) -> std::unique_ptr<Form> {
+      return std::make_unique<ChoiceScreen>(p, design);
     };
   }
-  for (const OptionChoiceSpec& spec : kOptionScreens) {
-    r.screens[std::string(spec.name)] = [&spec](Program& p) -> std::unique_ptr<Form> {
-      return std::make_unique<OptionChoiceScreen>(p, spec);
+  for (const OptionChoiceSpec& design : kOptionScreens) {
+    r.screens[std::string(design.name)] = [&design](Program& p) -> std::unique_ptr<Form> {
+      return std::make_unique<OptionChoiceScreen>(p, design);
     };
   }
 }

@@ -27,23 +27,23 @@ struct ChoiceButton {
 struct ChoiceSpec {
   std::string_view name;
   std::string_view caption;
-  std::string_view closer;          // cmdCancel or cmdClose
-  std::string_view closerCaption;   // "Cancel" or "Close"
+  std::string_view closer;         // cmdCancel or cmdClose
+  std::string_view closerCaption;  // "Cancel" or "Close"
   std::string_view closerToolTip;
-  bool closerShowsMain;             // the closing button also shows frmMain
+  bool closerShowsMain;  // the closing button also shows frmMain
   std::span<const ChoiceButton> buttons;
 };
 
 class ChoiceScreen : public Form {
  public:
-  ChoiceScreen(Program& program, const ChoiceSpec& spec);
+  ChoiceScreen(Program& program, const ChoiceSpec& design);
 
  private:
   void Form_Load();
   void Go(const ChoiceButton& button);
   void Close_Click();
 
-  const ChoiceSpec& spec_;
+  const ChoiceSpec& design_;
 };
 
 // The two screens that pick a data table with option buttons and Ok.
@@ -66,14 +66,14 @@ struct OptionChoiceSpec {
 
 class OptionChoiceScreen : public Form {
  public:
-  OptionChoiceScreen(Program& program, const OptionChoiceSpec& spec);
+  OptionChoiceScreen(Program& program, const OptionChoiceSpec& design);
 
  private:
   void Form_Load();
   void cmdOk_Click();
   void cmdCancel_Click();
 
-  const OptionChoiceSpec& spec_;
+  const OptionChoiceSpec& design_;
 };
 
 // Registers all choice screens.
