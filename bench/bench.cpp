@@ -86,16 +86,8 @@ int Startup(int argc, char** argv, bool bare) {
     window.show();
     return QApplication::exec();
   }
-  orv::qt::QtView view;
-  orv::qt::QtMessages messages;
-  orv::qt::QtPrinter printer(view);
-  orv::qt::QtLauncher launcher;
-  orv::Program program(orv::AllScreens(), {&messages, &printer, &launcher, &view},
-                       QCoreApplication::applicationDirPath().toStdString());
-  view.SetProgram(&program);
-  program.Start();
-  std::printf("started_ms %.1f\n", Ms());
-  return QApplication::exec();
+  orv::qt::QtProgram orvanta(orv::AllScreens());
+  return orvanta.Run();
 }
 
 int Sigfig(long presses) {

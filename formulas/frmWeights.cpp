@@ -78,20 +78,27 @@ void frmWeights::ResetTypingState() {
   InHydrate = false;
 }
 
-void frmWeights::Form_Load() {
+// What loading and Clear both empty; Clear empties one box more, which it
+// names, between the result and the formula.
+void frmWeights::EmptyScreen(std::string_view alsoEmpty) {
   FormulaModule& m = Formulas(program());
+  ctl("RichTextBox1").SetText("");
+  ctl("txtWeights2").SetText("");
+  if (!alsoEmpty.empty()) ctl(alsoEmpty).SetText("");
+  m.FormulaText = "";
+  ctl("chk1").SetValue(false);
+  ctl("chk2").SetValue(false);
+  for (int k = 0; k < kCompositionBoxes; ++k) ctl("txtComposition", k).SetText("");
+  ctl("txtHydrate").SetText("");
+  ResetTypingState();
+  HydrateCount = "0";
+  m.FormulaCoefficient = "0";
+  m.ClearWeights();
+}
+
+void frmWeights::Form_Load() {
   Trapped(kTrapWordsInfo, [&] {
-    ctl("RichTextBox1").SetText("");
-    ctl("txtWeights2").SetText("");
-    m.FormulaText = "";
-    ctl("chk1").SetValue(false);
-    ctl("chk2").SetValue(false);
-    for (int k = 0; k < kCompositionBoxes; ++k) ctl("txtComposition", k).SetText("");
-    ctl("txtHydrate").SetText("");
-    ResetTypingState();
-    HydrateCount = "0";
-    m.FormulaCoefficient = "0";
-    m.ClearWeights();
+    EmptyScreen({});
     data::FillElements(Store(program()));
     DisableOkAndPrint();
   });
@@ -214,19 +221,7 @@ void frmWeights::cmdOk_Click() {
 }
 
 void frmWeights::cmdClear_Click() {
-  FormulaModule& m = Formulas(program());
-  ctl("RichTextBox1").SetText("");
-  ctl("txtWeights2").SetText("");
-  ctl("Text1").SetText("");
-  m.FormulaText = "";
-  ctl("chk1").SetValue(false);
-  ctl("chk2").SetValue(false);
-  for (int k = 0; k < kCompositionBoxes; ++k) ctl("txtComposition", k).SetText("");
-  ctl("txtHydrate").SetText("");
-  ResetTypingState();
-  HydrateCount = "0";
-  m.FormulaCoefficient = "0";
-  m.ClearWeights();
+  EmptyScreen("Text1");
   ctl("RichTextBox1").SetFocus();
 }
 

@@ -24,6 +24,7 @@ class frmWeights : public CalculatorScreen {
   // The weight of a group from the table of molecular weights.
   void Weight(const std::string& Substance, Single& Result);
   void ResetTypingState();
+  void EmptyScreen(std::string_view alsoEmpty);
 
   // The typing state of the formula box.
   bool InCoefficient = true;

@@ -586,6 +586,17 @@ void QtMessages::ShowFatal(std::string_view words) { Show(words, Icon::Critical,
 
 void QtMessages::Beep() { QApplication::beep(); }
 
+QtProgram::QtProgram(const ScreenRegistry& registry)
+    : program(registry, {&messages, &printer, &launcher, &view}, QCoreApplication::applicationDirPath().toStdString()) {
+  view.SetProgram(&program);
+}
+
+int QtProgram::Run() {
+  program.Start();
+  if (program.Ended()) return program.EndedOnError() ? 1 : 0;
+  return QApplication::exec();
+}
+
 QImage GrabForm(QtView& view, Form& form) {
   QWidget* w = view.Window(form);
   if (w == nullptr) return {};

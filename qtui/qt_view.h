@@ -95,6 +95,20 @@ class QtLauncher : public LaunchService {
   void LaunchCalculator() override;
 };
 
+// The program with the Qt front end and the platform's services, finding its
+// data beside the executable.
+struct QtProgram {
+  explicit QtProgram(const ScreenRegistry& registry);
+  // Runs the start-up routine, then the event loop; the program's exit code.
+  int Run();
+
+  QtView view;
+  QtMessages messages;
+  QtPrinter printer{view};
+  QtLauncher launcher;
+  Program program;
+};
+
 // A window's image as it stands, for printing and for tests.
 QImage GrabForm(QtView& view, Form& form);
 
