@@ -752,6 +752,16 @@ bool Run::Step(const std::vector<Token>& t) {
       Type(c, t[2].text);
     else
       Paste(c, t[2].text);
+  } else if (verb == "close") {
+    // The user closes the screen's window (its title bar's close button).
+    if (t.size() != 2) Fail("close FORM");
+    Form& f = LoadedForm(t[1].text);
+    if (options_.qt) {
+      view_->Window(f)->close();
+      Settle();
+    } else {
+      P().UserClose(f);
+    }
   } else if (verb == "snapshot") {
     // Saves the window's image, through the widgets only: for looking at a screen.
     if (t.size() != 3 || !t[2].quoted) Fail("snapshot FORM \"file.png\"");
