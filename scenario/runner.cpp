@@ -114,7 +114,7 @@ std::vector<Key> ParseKeys(const std::string& text) {
       {"Right", {kKeyRight, 0, 0}},
       {"Home", {kKeyHome, 0, 0}},
       {"End", {kKeyEnd, 0, 0}},
-      {"Ctrl+V", {'V', 22, kCtrlMask}},
+
   };
   std::vector<Key> keys;
   for (std::size_t i = 0; i < text.size(); ++i) {
@@ -123,6 +123,11 @@ std::vector<Key> ParseKeys(const std::string& text) {
       if (close == std::string::npos) Fail("unterminated key name");
       const std::string name = text.substr(i + 1, close - i - 1);
       bool found = false;
+      // {Ctrl+X}: a letter with Ctrl, which types the letter's control character.
+      if (name.size() == 6 && name.rfind("Ctrl+", 0) == 0 && name[5] >= 'A' && name[5] <= 'Z') {
+        keys.push_back(Key{name[5], name[5] - 'A' + 1, kCtrlMask});
+        found = true;
+      }
       for (const auto& [n, k] : kNamed) {
         if (name == n) {
           keys.push_back(k);

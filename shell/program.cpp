@@ -260,12 +260,29 @@ bool Program::EditBox(Control& box, const Key& key) {
   }
 }
 
+// The menu entry of the screen whose shortcut ("Ctrl+X") is this key.
+Control* Program::MenuShortcut(Form& form, const Key& key) {
+  if ((key.shift & kCtrlMask) == 0 || key.code < 'A' || key.code > 'Z') return nullptr;
+  const std::string wanted = std::string("Ctrl+") + static_cast<char>(key.code);
+  for (const auto& c : form.controls()) {
+    if (c->kind() == Kind::Menu && c->shortcut() == wanted) return c.get();
+  }
+  return nullptr;
+}
+
 bool Program::UserKey(Form& form, Control* focus, const Key& key) {
   bool taken = false;
   Outermost o(*this);
   o.Run([&] {
     if (!form.Loaded() || !form.Visible()) return;
     if (focus != nullptr && !focus->TakesInput()) focus = nullptr;
+
+    // A menu entry's shortcut goes to the menu before the screen sees the key.
+    if (Control* entry = MenuShortcut(form, key)) {
+      taken = true;
+      if (entry->TakesInput()) form.Fire(entry, Ev::Click);
+      return;
+    }
 
     // The screen sees every key first.
     EventArgs down;

@@ -146,6 +146,7 @@ class Program {
   bool EditBox(Control& box, const Key& key);
   void TypeChar(Control& box, int ascii);
   void MoveFocus(Form& form, Control* from, bool backwards);
+  static Control* MenuShortcut(Form& form, const Key& key);
 
   const ScreenRegistry& registry_;
   Services services_;
