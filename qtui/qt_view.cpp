@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QClipboard>
 #include <QCloseEvent>
 #include <QFontDatabase>
 #include <QGroupBox>
@@ -586,8 +587,13 @@ void QtMessages::ShowFatal(std::string_view words) { Show(words, Icon::Critical,
 
 void QtMessages::Beep() { QApplication::beep(); }
 
+std::string QtClipboard::Text() const { return S(QGuiApplication::clipboard()->text()); }
+
+void QtClipboard::SetText(std::string_view text) { QGuiApplication::clipboard()->setText(Q(text)); }
+
 QtProgram::QtProgram(const ScreenRegistry& registry)
-    : program(registry, {&messages, &printer, &launcher, &view}, QCoreApplication::applicationDirPath().toStdString()) {
+    : program(registry, {&messages, &printer, &launcher, &view, &clipboard},
+              QCoreApplication::applicationDirPath().toStdString()) {
   view.SetProgram(&program);
 }
 

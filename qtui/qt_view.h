@@ -95,6 +95,13 @@ class QtLauncher : public LaunchService {
   void LaunchCalculator() override;
 };
 
+// The desktop's clipboard.
+class QtClipboard : public ClipboardService {
+ public:
+  std::string Text() const override;
+  void SetText(std::string_view text) override;
+};
+
 // The program with the Qt front end and the platform's services, finding its
 // data beside the executable.
 struct QtProgram {
@@ -106,6 +113,7 @@ struct QtProgram {
   QtMessages messages;
   QtPrinter printer{view};
   QtLauncher launcher;
+  QtClipboard clipboard;
   Program program;
 };
 

@@ -266,6 +266,16 @@ class Launcher : public LaunchService {
   bool available_;
 };
 
+// The clipboard of a headless run.
+class Clipboard : public ClipboardService {
+ public:
+  std::string Text() const override { return text_; }
+  void SetText(std::string_view text) override { text_ = std::string(text); }
+
+ private:
+  std::string text_;
+};
+
 // --- one run ---
 
 class Run {
@@ -345,6 +355,7 @@ class Run {
   std::unique_ptr<Messages> messages_;
   std::unique_ptr<Printer> printer_;
   std::unique_ptr<Launcher> launcher_;
+  std::unique_ptr<ClipboardService> clipboard_;
   std::unique_ptr<Program> program_;
   bool endExpected_ = false;
 };
@@ -373,8 +384,14 @@ void Run::Start(const std::vector<Token>& t) {
   // Without the database the program looks for it in a folder that lacks it.
   std::string dir = options_.exeDir;
   if (!db) dir = (std::filesystem::temp_directory_path() / "orvanta-no-database").string();
+  if (options_.qt) {
+    clipboard_ = std::make_unique<qt::QtClipboard>();
+  } else {
+    clipboard_ = std::make_unique<Clipboard>();
+  }
   program_ = std::make_unique<Program>(
-      AllScreens(), Program::Services{messages_.get(), printer_.get(), launcher_.get(), view_.get()}, dir);
+      AllScreens(), Program::Services{messages_.get(), printer_.get(), launcher_.get(), view_.get(), clipboard_.get()},
+      dir);
   if (view_) view_->SetProgram(program_.get());
   program_->Start();
   Settle();

@@ -223,6 +223,17 @@ void Program::TypeChar(Control& box, int ascii) {
   } else if (ascii >= 32 && ascii != 127) {
     text.replace(from, to - from, Chr(ascii));
     ++caret;
+  } else if (ascii == kCtrlC || ascii == kCtrlX) {
+    // A box that lets these through copies, or cuts, its selection.
+    if (box.SelLength() == 0) return;
+    if (services_.clipboard != nullptr) services_.clipboard->SetText(text.substr(from, to - from));
+    if (ascii == kCtrlC) return;
+    text.erase(from, to - from);
+  } else if (ascii == kCtrlV) {
+    // Pasting by key puts the clipboard's text in as it stands.
+    const std::string paste = services_.clipboard != nullptr ? services_.clipboard->Text() : std::string();
+    text.replace(from, to - from, paste);
+    caret += CharCount(paste);
   } else if (ascii == kKeyReturn && (box.flags() & kMultiLine) != 0) {
     text.replace(from, to - from, "\r\n");
     caret += 2;

@@ -45,6 +45,8 @@ enum KeyCode : int {
   kKeyDelete = 46,
   kKeyF1 = 112,
 };
+// Control characters that edit a text box.
+enum ControlChar : int { kCtrlC = 3, kCtrlV = 22, kCtrlX = 24 };
 enum ShiftState : int { kShiftMask = 1, kCtrlMask = 2, kAltMask = 4 };
 
 // One key as the user pressed it: the key code and, for keys that produce a
@@ -68,7 +70,8 @@ class Program {
     MessageService* messages = nullptr;
     PrintService* printer = nullptr;
     LaunchService* launcher = nullptr;
-    View* view = nullptr;  // none when headless
+    View* view = nullptr;                   // none when headless
+    ClipboardService* clipboard = nullptr;  // none: the clipboard stays empty
   };
 
   Program(const ScreenRegistry& registry, Services services, std::string exeDir);

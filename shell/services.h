@@ -43,6 +43,14 @@ class LaunchService {
   virtual void LaunchCalculator() = 0;
 };
 
+// The desktop's clipboard, for Ctrl+C, Ctrl+X and Ctrl+V in a text box.
+class ClipboardService {
+ public:
+  virtual ~ClipboardService() = default;
+  virtual std::string Text() const = 0;
+  virtual void SetText(std::string_view text) = 0;
+};
+
 // Mirrors the model into a toolkit. Every call comes after the model has
 // changed; a view never calls back into the model from these.
 class View {

@@ -30,6 +30,13 @@ class NullLauncher : public LaunchService {
   void LaunchCalculator() override {}
 };
 
+class MemoryClipboard : public ClipboardService {
+ public:
+  std::string Text() const override { return text; }
+  void SetText(std::string_view t) override { text = std::string(t); }
+  std::string text;
+};
+
 constexpr KeyFilter kFilter{".E", "Test"};
 
 constexpr ControlSpec kControls[] = {
@@ -83,7 +90,7 @@ const ScreenRegistry& Registry() {
 
 class RuntimeTest : public ::testing::Test {
  protected:
-  RuntimeTest() : program_(Registry(), {&messages_, &printer_, &launcher_, nullptr}, "/nonexistent") {
+  RuntimeTest() : program_(Registry(), {&messages_, &printer_, &launcher_, nullptr, &clipboard_}, "/nonexistent") {
     program_.Start();
     form_ = static_cast<frmTest*>(program_.Find("frmTest"));
   }
@@ -97,6 +104,7 @@ class RuntimeTest : public ::testing::Test {
   RecordingMessages messages_;
   NullPrinter printer_;
   NullLauncher launcher_;
+  MemoryClipboard clipboard_;
   Program program_;
   frmTest* form_ = nullptr;
 };
@@ -189,6 +197,22 @@ TEST_F(RuntimeTest, TypingEditsAtTheCaret) {
   Press("Text2", kKeyHome);
   Press("Text2", kKeyDelete);
   EXPECT_EQ(form_->ctl("Text2").Text(), "35");
+}
+
+TEST_F(RuntimeTest, AnUnfilteredBoxCutsCopiesAndPastesByKey) {
+  Type("Text2", "12345");
+  form_->ctl("Text2").SetSelection(1, 2);
+  Press("Text2", 'C', kCtrlC);
+  EXPECT_EQ(clipboard_.text, "23");
+  Press("Text2", 'X', kCtrlX);
+  EXPECT_EQ(form_->ctl("Text2").Text(), "145");
+  Press("Text2", kKeyEnd);
+  Press("Text2", 'V', kCtrlV);
+  EXPECT_EQ(form_->ctl("Text2").Text(), "14523");
+  // The filter refuses the same key in a filtered box.
+  Press("Text1", 'V', kCtrlV);
+  EXPECT_EQ(form_->ctl("Text1").Text(), "");
+  EXPECT_EQ(messages_.boxes.size(), 1u);
 }
 
 TEST(KeyCodes, CharactersMapToTheirKeys) {
