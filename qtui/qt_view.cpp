@@ -480,6 +480,14 @@ void QtView::Sync(Control& c) {
     if (rows != shown) {
       list->clear();
       list->addItems(rows);
+      // Like a list box of the old desktops, show whole rows only: the list
+      // gives up the part of its height that would show half a row.
+      if (list->count() > 0) {
+        const int row = list->sizeHintForRow(0);
+        const int frame = 2 * list->frameWidth();
+        const int rowsShown = std::max(1, (c.rect().h - frame) / std::max(row, 1));
+        list->setFixedHeight(std::min(c.rect().h, rowsShown * row + frame));
+      }
     }
     list->setCurrentRow(c.ListIndex());
   } else if (auto* picture = qobject_cast<PictureWidget*>(w)) {
