@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "shell/errors.h"
+
 namespace orv {
 
 namespace {
@@ -30,24 +32,28 @@ std::size_t ByteOffset(std::string_view s, int index) {
 
 int Len(std::string_view s) { return CharCount(s); }
 
+std::string Mid(std::string_view s, int start) {
+  if (start < 1) Raise(ErrorCode::InvalidProcedureCall);
+  return std::string(s.substr(ByteOffset(s, start - 1)));
+}
+
 std::string Mid(std::string_view s, int start, int length) {
-  if (start < 1) start = 1;
+  if (start < 1 || length < 0) Raise(ErrorCode::InvalidProcedureCall);
   const std::size_t from = ByteOffset(s, start - 1);
-  if (length < 0) return std::string(s.substr(from));
   const std::size_t to = ByteOffset(s, start - 1 + length);
   return std::string(s.substr(from, to - from));
 }
 
-std::string Left(std::string_view s, int length) { return Mid(s, 1, std::max(length, 0)); }
+std::string Left(std::string_view s, int length) { return Mid(s, 1, length); }
 
 std::string Right(std::string_view s, int length) {
+  if (length < 0) Raise(ErrorCode::InvalidProcedureCall);
   const int n = CharCount(s);
-  length = std::clamp(length, 0, n);
-  return Mid(s, n - length + 1);
+  return Mid(s, n - std::min(length, n) + 1);
 }
 
 int InStr(std::string_view s, std::string_view what, int start) {
-  if (start < 1) start = 1;
+  if (start < 1) Raise(ErrorCode::InvalidProcedureCall);
   const std::size_t from = ByteOffset(s, start - 1);
   if (from > s.size()) return 0;
   const std::size_t at = s.find(what, from);
