@@ -9,6 +9,9 @@ void RegisterShellScreens(ScreenRegistry& r);
 void RegisterGeneralScreens(ScreenRegistry& r);
 void RegisterAtomScreens(ScreenRegistry& r);
 void RegisterFormulaScreens(ScreenRegistry& r);
+void RegisterGasScreens(ScreenRegistry& r);
+void RegisterSolutionScreens(ScreenRegistry& r);
+void RegisterEnergyScreens(ScreenRegistry& r);
 
 namespace {
 ScreenRegistry Build() {
@@ -18,6 +21,9 @@ ScreenRegistry Build() {
   RegisterGeneralScreens(r);
   RegisterAtomScreens(r);
   RegisterFormulaScreens(r);
+  RegisterGasScreens(r);
+  RegisterSolutionScreens(r);
+  RegisterEnergyScreens(r);
   return r;
 }
 }  // namespace

@@ -1,0 +1,7 @@
+#include "shell/program.h"
+
+namespace orv {
+
+void RegisterGasScreens(ScreenRegistry& /*r*/) {}
+
+}  // namespace orv

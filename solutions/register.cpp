@@ -1,0 +1,7 @@
+#include "shell/program.h"
+
+namespace orv {
+
+void RegisterSolutionScreens(ScreenRegistry& /*r*/) {}
+
+}  // namespace orv
