@@ -1,0 +1,94 @@
+#include "gases/frmGasDensity.h"
+
+namespace orv {
+
+namespace {
+
+// R of the arithmetic and of the working line; the box of R shows another
+// value and is never read.
+constexpr Expr kR = 0.082;
+
+constexpr std::string_view kHelp =
+    "The density of a gas can be determined by using a variation of the ideal gas equation in combination with the "
+    "regular density formula. The mass of the gas is replaced by Pressure times Molecular Weight. The volume is "
+    "replaced by R times Temperature.";
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Label, "Label1", "Enter the following data for gas density", {20, 12, 480, 22}, {}, {}, -1, kBold},
+    {Kind::Label, "Label2", "Enter the molecular weight", {20, 50, 280, 22}},
+    {Kind::TextBox, "Text1", "", {304, 46, 150, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label3", "Enter the pressure in atmospheres", {20, 86, 280, 22}},
+    {Kind::TextBox, "Text2", "", {304, 82, 150, 26}, "Divide mm of Hg by 760.", {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label4", "Ideal Gas constant (R)", {20, 122, 280, 22}},
+    {Kind::TextBox, "Text3", ".083", {304, 118, 150, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label5", "Enter the temperature in degrees K", {20, 158, 280, 22}},
+    {Kind::TextBox, "Text4", "", {304, 154, 150, 26}, "Kelvin is Celcius + 273", {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label6", "The density of the gas is ", {20, 194, 280, 22}},
+    {Kind::TextBox, "Text5", "", {304, 190, 150, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label7", "g / L", {460, 194, 60, 22}},
+    {Kind::TextBox, "Text6", "", {20, 230, 500, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {20, 274, 80, 30}, {}, {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {108, 274, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {196, 274, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {284, 274, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {488, 276, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+}  // namespace
+
+frmGasDensity::frmGasDensity(Program& program)
+    : CalculatorScreen(program, {"frmGasDensity", "Gas Density", 540, 320}, kControls, {"frmGasLaws", "Text1", kHelp}) {
+  Bind("Form", Ev::Load, &frmGasDensity::Form_Load);
+  Bind("cmdOk", Ev::Click, &frmGasDensity::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmGasDensity::cmdClear_Click);
+  EnterRunsOk("Text1");
+  EnterRunsOk("Text2");
+  // The Enter routine sits on the box of R, not on the temperature box.
+  EnterRunsOk("Text3");
+}
+
+void frmGasDensity::Form_Load() {
+  ctl("Text1").SetText("");
+  ctl("Text2").SetText("");
+  ctl("Text4").SetText("");
+  ctl("Text5").SetText("");
+  ctl("Text6").SetText("");
+  DisableOkAndPrint();
+}
+
+void frmGasDensity::cmdOk_Click() {
+  Trapped(kTrapWords, [&] {
+    const std::string& weightText = ctl("Text1").Text();
+    const std::string& pressureText = ctl("Text2").Text();
+    const std::string& temperatureText = ctl("Text4").Text();
+    if (weightText.empty() || pressureText.empty() || temperatureText.empty()) {
+      MsgBox("You must enter data into all the boxes.", Icon::None, kTitle);
+      ctl("Text1").SetFocus();
+      return;
+    }
+    // A text test, and the temperature is not in it.
+    if (weightText == "0" || pressureText == "0") {
+      MsgBox("You must enter valid data into all the boxes.", Icon::None, kTitle);
+      ctl("Text1").SetFocus();
+      return;
+    }
+    const Single w = CSng(weightText);
+    const Single p = CSng(pressureText);
+    const Single t = CSng(temperatureText);
+    const Double wp = w * p;
+    const Single d = wp / (t * kR);
+    ctl("Text5").SetText(FormatNumber(d, 3));
+    ctl("Text6").SetText("(" + Str(w) + " * " + Str(p) + ") / (" + Str(Double(kR)) + " * " + Str(t) + ")");
+  });
+}
+
+void frmGasDensity::cmdClear_Click() {
+  ctl("Text1").SetText("");
+  ctl("Text2").SetText("");
+  ctl("Text4").SetText("");
+  ctl("Text5").SetText("");
+  ctl("Text6").SetText("");
+  ctl("Text1").SetFocus();
+}
+
+}  // namespace orv

@@ -1,0 +1,100 @@
+#include "gases/frmRaoults.h"
+
+#include "shell/screens/module1.h"
+
+namespace orv {
+
+namespace {
+
+constexpr std::string_view kHelp =
+    "When you add a solute to a solvent like water, you affect the rate at which the water molecules can evaporate. "
+    "The solute molecules block part of the surface area through which the solvent molecules can leave. Knowing the  "
+    "mole fraction of the solvent and the vapor pressure of the solvent at a particular  temperature, you can "
+    "calculate the new vapor pressure of the solvent. ";
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Label, "Label2", "Enter the temperature in Celsius.", {20, 20, 300, 22}},
+    {Kind::TextBox, "Text1", "", {330, 16, 150, 26}, {}, {}, -1, 0, &kFilterMinusPoint},
+    {Kind::Label, "Label3", "Enter the mass of solute in grams.", {20, 56, 300, 22}},
+    {Kind::TextBox, "Text2", "", {330, 52, 150, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label4", "Enter the molecular weight of the solute.", {20, 92, 300, 22}},
+    {Kind::TextBox, "Text3", "", {330, 88, 150, 26}, "Enter a valid number.", {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label5", "Enter the mass of the solvent in grams.", {20, 128, 300, 22}},
+    {Kind::TextBox, "Text4", "", {330, 124, 150, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label6", "Enter the molecular weight of the solvent.", {20, 164, 300, 22}},
+    {Kind::TextBox, "Text5", "", {330, 160, 150, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label7", "The vapor pressure is ", {20, 204, 300, 22}},
+    {Kind::TextBox, "Text6", "", {330, 200, 150, 26}, {}, {}, -1, kDisabled},
+    {Kind::TextBox, "Text7", "", {20, 238, 460, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {20, 282, 80, 30}, {}, {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {108, 282, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {196, 282, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {284, 282, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {448, 284, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+constexpr const char* kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"};
+
+}  // namespace
+
+frmRaoults::frmRaoults(Program& program)
+    : CalculatorScreen(program, {"frmRaoults", "Raoult's Law", 500, 328}, kControls, {"frmGasLaws", "Text1", kHelp}) {
+  Bind("Form", Ev::Load, &frmRaoults::Form_Load);
+  Bind("cmdOk", Ev::Click, &frmRaoults::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmRaoults::cmdClear_Click);
+  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) EnterRunsOk(box);
+}
+
+void frmRaoults::Form_Load() {
+  for (const char* box : kBoxes) ctl(box).SetText("");
+  DisableOkAndPrint();
+}
+
+void frmRaoults::cmdOk_Click() {
+  Trapped(kTrapErrorInDataEntry, [&] {
+    // Each box in turn: first its presence, then a positive value.
+    struct Check {
+      const char* box;
+      std::string_view missing;
+      bool positive;
+    };
+    constexpr Check kChecks[] = {
+        {"Text1", "You must enter a temperature.", false},
+        {"Text2", "You must enter a mass for solutes.", true},
+        {"Text3", "You must enter the molecular weight of the solute.", true},
+        {"Text4", "You must enter the mass of the solvent.", true},
+        {"Text5", "You must enter the molecular weight of the solvent.", true},
+    };
+    for (const Check& check : kChecks) {
+      const std::string& text = ctl(check.box).Text();
+      if (text.empty()) {
+        MsgBox(check.missing, Icon::Information, kTitle);
+        return;
+      }
+      if (check.positive && CSng(text) <= 0) {
+        MsgBox("You must enter a positive number.", Icon::Information, kTitle);
+        return;
+      }
+    }
+    const Single solute = CDbl(ctl("Text2").Text()) / CDbl(ctl("Text3").Text());
+    const Single solvent = CDbl(ctl("Text4").Text()) / CDbl(ctl("Text5").Text());
+    // The vapor pressure of the solvent at the temperature as typed; no row
+    // leaves it at zero.
+    Single pure;
+    if (const auto found = data::FindVaporPressureByText(Store(program()), ctl("Text1").Text())) {
+      pure = Expr(CDbl(*found));
+    }
+    const Single total = solvent + solute;
+    const Single fraction = solvent / total;
+    const Single pressure = pure * fraction;
+    ctl("Text6").SetText(FormatNumber(pressure, 3));
+    ctl("Text7").SetText(Str(pure) + " * " + Str(solvent) + " / " + "(" + Str(solute) + " + " + Str(solvent) + ")");
+  });
+}
+
+void frmRaoults::cmdClear_Click() {
+  for (const char* box : kBoxes) ctl(box).SetText("");
+  ctl("Text1").SetFocus();
+}
+
+}  // namespace orv

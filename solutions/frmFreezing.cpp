@@ -1,0 +1,117 @@
+#include "solutions/frmFreezing.h"
+
+#include "data/store.h"
+#include "shell/screens/module1.h"
+#include "solutions/padded_row.h"
+
+namespace orv {
+
+namespace {
+
+constexpr std::string_view kHelp =
+    "The freezing point and the boiling point of a solution can be changed by adding a quantity of a solute to it. "
+    "How much the freezing point and the boiling point change depends upon the substance involved. The molality of "
+    "the substance is one factor in determining the amount of change. The other factor is the freezing point "
+    "depression and the boiling point elevation of the substance.  The elevation or depression times the molality "
+    "determine the total temperature change. ";
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Frame, "Frame1", "Select one of the following", {16, 8, 528, 56}},
+    {Kind::Option, "opt1", "Freezing point", {16, 24, 160, 24}, {}, "Frame1"},
+    {Kind::Option, "opt2", "Boiling point", {220, 24, 160, 24}, {}, "Frame1"},
+    {Kind::Label,
+     "Label6",
+     " Substance                        F.P.           Depression         B.P.       Elevation",
+     {16, 74, 528, 22}},
+    {Kind::ListBox, "lstList1", "", {16, 98, 528, 150}, {}, {}, -1, kFixedPitch},
+    {Kind::Label, "Label2", "Enter one of the above temperature changes.", {16, 266, 300, 22}},
+    {Kind::TextBox, "Text1", "", {324, 262, 220, 26}, "Enter a temperature change.", {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label3", "Enter the original temperature in Celsius", {16, 302, 300, 22}},
+    {Kind::TextBox, "Text2", "", {324, 298, 220, 26}, "Enter a valid temperature.", {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label4", "Enter the molality", {16, 338, 300, 22}},
+    {Kind::TextBox, "Text3", "", {324, 334, 220, 26}, "Enter a valid molality.", {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label5", "The final temperature is ", {16, 378, 300, 22}},
+    {Kind::TextBox, "Text4", "", {324, 374, 156, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label1", "Celsius", {488, 378, 56, 22}},
+    {Kind::TextBox, "Text5", "", {16, 410, 528, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {16, 454, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {104, 454, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {192, 454, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {280, 454, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {512, 456, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+// The list's columns: the compound's name, then the freezing point, its
+// depression constant, the boiling point and its elevation constant.
+constexpr PaddedColumn kColumns[] = {
+    {"Compound", "000000000000", "0000000000000", "   "},
+    {"FreezingPoint", "000.00", "Standard", "   "},
+    {"FPDepression", "00000", "Standard", "   "},
+    {"BoilingPoint", "00000", "Standard", "   "},
+    {"BPElevation", "00000000", "Standard"},
+};
+
+}  // namespace
+
+frmFreezing::frmFreezing(Program& program)
+    : CalculatorScreen(program, {"frmFreezing", "Freezing Point / Boiling Point Changes", 560, 500}, kControls,
+                       {"frmSolutions", "Text1", kHelp}) {
+  Bind("Form", Ev::Load, &frmFreezing::Form_Load);
+  Bind("cmdOk", Ev::Click, &frmFreezing::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmFreezing::cmdClear_Click);
+  EnterRunsOk("Text1");
+  EnterRunsOk("Text2");
+  EnterRunsOk("Text3");
+}
+
+// Filling the list is not trapped: a failure there ends the program.
+void frmFreezing::Form_Load() {
+  HideForm("frmSolutions");
+  ctl("opt1").SetValue(true);
+  data::DataStore& store = Store(program());
+  data::OpenRecordset(store, "SELECT *  FROM Temperatures");
+  data::Recordset& rs = data::CurrentRecordset(store);
+  rs.MoveFirst();
+  Control& list = ctl("lstList1");
+  while (!rs.AtEnd()) {
+    list.AddItem(PaddedRow(rs, kColumns));
+    rs.MoveNext();
+  }
+  data::CloseRecordset(store);
+  ctl("Text4").SetText("");
+  DisableOkAndPrint();
+}
+
+void frmFreezing::cmdOk_Click() {
+  Trapped(kTrapWords, [&] {
+    const std::string& change = ctl("Text1").Text();
+    const std::string& original = ctl("Text2").Text();
+    const std::string& molality = ctl("Text3").Text();
+    if (change.empty() || original.empty() || molality.empty()) {
+      MsgBox("You must enter data into all three boxes.", Icon::None, kTitle);
+      return;
+    }
+    // The original temperature may be 0.
+    if (change == "0" || molality == "0") {
+      MsgBox("You must enter valid data into all boxes.", Icon::None, kTitle);
+      return;
+    }
+    const Single dt = CSng(change);
+    const Single t = CSng(original);
+    const Single m = CSng(molality);
+    // The boiling point mode has no calculation.
+    if (ctl("opt1").Value()) {
+      const Single final = t - (dt * m);
+      ctl("Text4").SetText(FormatNumber(final, 3));
+      ctl("Text5").SetText(Str(t) + " - (" + Str(dt) + " * " + Str(m) + ")");
+    }
+  });
+}
+
+void frmFreezing::cmdClear_Click() {
+  ctl("lstList1").SetListIndex(-1);
+  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) ctl(box).SetText("");
+  ctl("Text1").SetFocus();
+}
+
+}  // namespace orv

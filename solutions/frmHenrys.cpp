@@ -1,0 +1,74 @@
+#include "solutions/frmHenrys.h"
+
+namespace orv {
+
+namespace {
+
+constexpr std::string_view kHelp =
+    "The amount of a gas that can be dissolved into a liquid depends upon the pressure exerted by the gas. The greater "
+    "the pressure, the more of the gas that can be dissolved into the liquid. Carbonated beverages are a good example. "
+    "CO2 is forced under pressure into the beverage. The solubility of the gas depends upon the pressure of the gas "
+    "and its solubility constant. ";
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Label, "Label2", "Enter the molality per atmosphere", {16, 20, 244, 22}},
+    {Kind::TextBox,
+     "Text1",
+     "",
+     {264, 16, 200, 26},
+     "Molality is moles per kilogram of solvent.",
+     {},
+     -1,
+     0,
+     &kFilterSignsPointE},
+    {Kind::Label, "Label3", "Enter the pressure in atmospheres", {16, 56, 244, 22}},
+    {Kind::TextBox, "Text2", "", {264, 52, 200, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label4", "The solubility is ", {16, 96, 244, 22}},
+    {Kind::TextBox, "Text3", "", {264, 92, 200, 26}, {}, {}, -1, kDisabled},
+    {Kind::TextBox, "Text4", "", {16, 132, 448, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {16, 176, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {104, 176, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {192, 176, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {280, 176, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {432, 178, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+}  // namespace
+
+frmHenrys::frmHenrys(Program& program)
+    : CalculatorScreen(program, {"frmHenrys", "Henry's Law - Calculating Solubility", 480, 222}, kControls,
+                       {"frmSolutions", "Text1", kHelp}) {
+  Bind("Form", Ev::Load, &frmHenrys::Form_Load);
+  Bind("cmdOk", Ev::Click, &frmHenrys::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmHenrys::cmdClear_Click);
+  EnterRunsOk("Text1");
+  EnterRunsOk("Text2");
+}
+
+void frmHenrys::Form_Load() {
+  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  DisableOkAndPrint();
+}
+
+void frmHenrys::cmdOk_Click() {
+  Trapped(kTrapWords, [&] {
+    const std::string& constant = ctl("Text1").Text();
+    const std::string& pressure = ctl("Text2").Text();
+    if (constant == "0" || constant.empty() || pressure == "0" || pressure.empty()) {
+      MsgBox("You must enter valid data into both boxes.", Icon::None, kTitle);
+      return;
+    }
+    const Single k = CSng(constant);
+    const Single p = CSng(pressure);
+    const Single x = k * p;
+    ctl("Text3").SetText(FormatNumber(x, 3));
+    ctl("Text4").SetText(Str(k) + " * " + Str(p));
+  });
+}
+
+void frmHenrys::cmdClear_Click() {
+  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  ctl("Text1").SetFocus();
+}
+
+}  // namespace orv

@@ -1,0 +1,113 @@
+#include "solutions/frmionizationConstant.h"
+
+#include <utility>
+
+namespace orv {
+
+namespace {
+
+constexpr std::string_view kHelp =
+    "When an ionic molecule dissolves in water, its ions separate into solution. The ionization constant is  the "
+    "concentration of the products raised to their coefficients divided by the concentrations of the reactants "
+    "raised to their coefficients.  The larger the ionization constant, the more of the ions that are produced "
+    "before equilibrium is reached. ";
+
+constexpr std::string_view kMolesTip = "Moles per liter.";
+constexpr std::string_view kIntegerTip = "Enter an integer from a balanced equation.";
+
+// The captions are written when the screen loads.
+constexpr ControlSpec kControls[] = {
+    {Kind::Label, "Label8", "", {16, 12, 448, 22}, {}, {}, -1, kBold},
+    {Kind::Label, "Label1", "", {16, 48, 264, 22}},
+    {Kind::TextBox, "Text1", "", {284, 44, 180, 26}, kMolesTip, {}, -1, 0, &kFilterSignsPointE},
+    {Kind::Label, "Label5", "", {16, 84, 264, 22}},
+    {Kind::TextBox, "Text6", "", {284, 80, 180, 26}, kIntegerTip, {}, -1, 0, &kFilterMinusPointE},
+    {Kind::Label, "Label2", "", {16, 120, 264, 22}},
+    {Kind::TextBox, "Text2", "", {284, 116, 180, 26}, kMolesTip, {}, -1, 0, &kFilterSignsPointE},
+    {Kind::Label, "Label6", "", {16, 156, 264, 22}},
+    {Kind::TextBox, "Text7", "", {284, 152, 180, 26}, kIntegerTip, {}, -1, 0, &kFilterMinusPointE},
+    {Kind::Label, "Label3", "", {16, 192, 264, 22}},
+    {Kind::TextBox, "Text3", "", {284, 188, 180, 26}, kMolesTip, {}, -1, 0, &kFilterMinusPointE},
+    {Kind::Label, "Label7", "", {16, 228, 264, 22}},
+    {Kind::TextBox, "Text8", "", {284, 224, 180, 26}, kIntegerTip, {}, -1, 0, &kFilterMinusPointE},
+    {Kind::Label, "Label4", "", {16, 268, 264, 22}},
+    {Kind::TextBox, "Text4", "", {284, 264, 180, 26}, {}, {}, -1, kDisabled},
+    {Kind::TextBox, "Text5", "", {16, 300, 448, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {16, 344, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {104, 344, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {192, 344, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {280, 344, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {432, 346, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+constexpr std::pair<const char*, std::string_view> kCaptions[] = {
+    {"Label8", "Enter all of the following data from a balanced equation."},
+    {"Label1", "Enter the concentration of the reactant."},
+    {"Label5", "Enter the coefficient of the reactant."},
+    {"Label2", "Enter the concentration of product 1."},
+    {"Label6", "Enter the coefficient of product 1."},
+    {"Label3", "Enter the concentration of product 2."},
+    {"Label7", "Enter the coefficient of product 2."},
+    {"Label4", "The ionization constant is "},
+};
+
+// The order in which the boxes are tested.
+constexpr const char* kInputs[] = {"Text1", "Text6", "Text2", "Text7", "Text3", "Text8"};
+
+}  // namespace
+
+frmionizationConstant::frmionizationConstant(Program& program)
+    : CalculatorScreen(program, {"frmionizationConstant", "Ionization Constant", 480, 390}, kControls,
+                       {"frmSolutions", "Text2", kHelp}) {
+  Bind("Form", Ev::Load, &frmionizationConstant::Form_Load);
+  Bind("cmdOk", Ev::Click, &frmionizationConstant::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmionizationConstant::cmdClear_Click);
+  // The coefficient boxes have no Enter handler.
+  EnterRunsOk("Text1");
+  EnterRunsOk("Text2");
+  EnterRunsOk("Text3");
+}
+
+void frmionizationConstant::Form_Load() {
+  for (const auto& [label, caption] : kCaptions) ctl(label).SetCaption(std::string(caption));
+  for (int i = 1; i <= 8; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  DisableOkAndPrint();
+}
+
+void frmionizationConstant::cmdOk_Click() {
+  Trapped(kTrapDataEntryCaps, [&] {
+    for (const char* box : kInputs) {
+      if (ctl(box).Text().empty()) {
+        MsgBox("You must enter a valid number.", Icon::Information, kTitle);
+        return;
+      }
+    }
+    const std::string& reactant = ctl("Text1").Text();
+    const std::string& reactantCoef = ctl("Text6").Text();
+    const std::string& product1 = ctl("Text2").Text();
+    const std::string& product1Coef = ctl("Text7").Text();
+    const std::string& product2 = ctl("Text3").Text();
+    const std::string& product2Coef = ctl("Text8").Text();
+    const Single r = CSng(reactant);
+    const Single n = CSng(reactantCoef);
+    const Single p1 = CSng(product1);
+    const Single m1 = CSng(product1Coef);
+    const Single p2 = CSng(product2);
+    const Single m2 = CSng(product2Coef);
+    // What has dissociated: the reactant less the first product.
+    const Single denominator = Pow(r, n) - Pow(p1, m1);
+    const Single numerator = Pow(p2, m2) * Pow(p1, m1);
+    const Single k = numerator / denominator;
+    ctl("Text4").SetText(Format(k, "Scientific"));
+    // The line is written from the boxes as typed, in its own shape.
+    ctl("Text5").SetText("(" + product1 + " ^ " + product1Coef + " * " + product2 + " ^ " + product2Coef + ") / " +
+                         "(" + reactant + " - " + product1 + " ^ " + reactantCoef + ")");
+  });
+}
+
+void frmionizationConstant::cmdClear_Click() {
+  for (int i = 1; i <= 8; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  ctl("Text1").SetFocus();
+}
+
+}  // namespace orv
