@@ -1,0 +1,117 @@
+#include "energy/frmChangeOfState.h"
+
+namespace orv {
+
+namespace {
+
+constexpr std::string_view kHelp =
+    "If a material is heated, the molecules acquire more energy, move faster and tend to move away from each other. "
+    "If the increase in energy is great enough, a change of state might occur. If heat is removed from a substance, "
+    "it tends to move slower and the loss of energy can also result in a change in state. The amount of energy "
+    "required for a change of state depends on the nature of the material and the quantity of the substance. ";
+
+constexpr std::string_view kMass = "Enter the mass of the material in grams";
+constexpr std::string_view kFusion = "Enter the heat of fusion in kJ/mol";
+constexpr std::string_view kVaporization = "Enter the heat of vaporization in kJ/mol";
+constexpr std::string_view kWeight = "Enter the molecular weight.";
+constexpr std::string_view kMelt = "Energy needed to melt is ";
+constexpr std::string_view kBoil = "Energy needed to boil is ";
+constexpr std::string_view kUnit = "kJ";
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 520, 60}},
+    {Kind::Option, "opt1", "Melting", {16, 28, 140, 24}, {}, "Frame1"},
+    {Kind::Option, "opt2", "Boiling", {180, 28, 140, 24}, {}, "Frame1"},
+    {Kind::Label, "Label1", "", {20, 90, 300, 22}},
+    {Kind::TextBox, "Text1", "", {324, 86, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label2", "", {20, 126, 300, 22}},
+    {Kind::TextBox, "Text2", "", {324, 122, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label3", "", {20, 162, 300, 22}},
+    {Kind::TextBox, "Text3", "", {324, 158, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
+    {Kind::Label, "Label4", "", {20, 206, 300, 22}},
+    {Kind::TextBox, "Text4", "", {324, 202, 160, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label5", "", {492, 206, 48, 22}},
+    {Kind::TextBox, "Text5", "", {20, 240, 520, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {20, 284, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {108, 284, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {196, 284, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {284, 284, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {508, 286, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+}  // namespace
+
+frmChangeOfState::frmChangeOfState(Program& program)
+    : CalculatorScreen(program, {"frmChangeOfState", "Energy And Change Of State", 560, 330}, kControls,
+                       {"frmEnergy", "Text1", kHelp}) {
+  Bind("Form", Ev::Load, &frmChangeOfState::Form_Load);
+  Bind("cmdOk", Ev::Click, &frmChangeOfState::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmChangeOfState::cmdClear_Click);
+  Bind("opt1", Ev::Click, &frmChangeOfState::opt1_Click);
+  Bind("opt2", Ev::Click, &frmChangeOfState::opt2_Click);
+  EnterRunsOk("Text1");
+  EnterRunsOk("Text2");
+  EnterRunsOk("Text3");
+}
+
+void frmChangeOfState::SetCaptions(std::string_view heat, std::string_view result) {
+  ctl("Label1").SetCaption(std::string(kMass));
+  ctl("Label2").SetCaption(std::string(heat));
+  ctl("Label3").SetCaption(std::string(kWeight));
+  ctl("Label4").SetCaption(std::string(result));
+  ctl("Label5").SetCaption(std::string(kUnit));
+}
+
+void frmChangeOfState::EmptyBoxes() {
+  ctl("Text1").SetText("");
+  ctl("Text2").SetText("");
+  ctl("Text3").SetText("");
+  ctl("Text4").SetText("");
+  ctl("Text5").SetText("");
+}
+
+void frmChangeOfState::Form_Load() {
+  EmptyBoxes();
+  SetCaptions(kFusion, kMelt);
+  ctl("opt1").SetValue(true);
+  DisableOkAndPrint();
+}
+
+void frmChangeOfState::opt1_Click() { SetCaptions(kFusion, kMelt); }
+
+void frmChangeOfState::opt2_Click() {
+  SetCaptions(kVaporization, kBoil);
+  ctl("Text1").SetFocus();
+}
+
+// The checks compare the texts as typed: anything that sorts before "1",
+// such as "0.5" or ".5", counts as not positive. Nothing is calculated.
+void frmChangeOfState::cmdOk_Click() {
+  Trapped(kTrapDataEntryPoint, [&] {
+    const std::string& text1 = ctl("Text1").Text();
+    const std::string& text2 = ctl("Text2").Text();
+    const std::string& text3 = ctl("Text3").Text();
+    if (text1.empty() || text3.empty() || text2.empty()) {
+      MsgBox("You need to enter valid data in all boxes.", Icon::Information, kTitle);
+      return;
+    }
+    if (text1 < "1" || text3 < "1" || text2 < "1") {
+      MsgBox("You need to enter positive data in all boxes.", Icon::Information, kTitle);
+      return;
+    }
+  });
+}
+
+// The short prompts stay when melting was chosen already; from boiling,
+// selecting melting puts the long ones back.
+void frmChangeOfState::cmdClear_Click() {
+  EmptyBoxes();
+  ctl("Label1").SetCaption("Enter the mass of the material.");
+  ctl("Label2").SetCaption(ctl("opt1").Value() ? "Enter the heat of fusion" : "Enter the heat of vaporization.");
+  ctl("Label3").SetCaption(std::string(kWeight));
+  ctl("Label4").SetCaption(std::string(kMelt));
+  ctl("Text1").SetFocus();
+  ctl("opt1").SetValue(true);
+}
+
+}  // namespace orv

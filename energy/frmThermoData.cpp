@@ -1,0 +1,220 @@
+#include "energy/frmThermoData.h"
+
+namespace orv {
+
+namespace {
+
+constexpr std::string_view kScreenTitle = "ThermoData";
+constexpr KeyFilter kThermoFilter{"-.", kScreenTitle};
+constexpr KeyFilter kThermoDigitsFilter{"", kScreenTitle};
+
+constexpr std::string_view kHelp =
+    "Enthalpy is the heat content of a substance. Enthalpy change is the change in heat content. Sometimes heat is "
+    "absorbed and sometimes it is given off. Entropy is a measure of  disorder. The more disordered the system is, "
+    "the greater the entropy. The more orderly, the lower the entropy. Gibbs free energy considers enthalpy and "
+    "entropy together along with the temperature. It is used to determine if a reaction is spontaneous.  ";
+
+constexpr std::string_view kReactant = "Enter the enthalpy value for the reactant in kJ.";
+constexpr std::string_view kProduct = "Enter the enthalpy value for the product in kJ.";
+constexpr std::string_view kRatio = "Ratio of reactant to product.";
+constexpr std::string_view kEnthalpyChange = "The enthalpy change is ";
+constexpr std::string_view kProducts = "Enter the sum of the entropies for the products.";
+constexpr std::string_view kReactants = "Enter the sum of the entropies for the reactants.";
+constexpr std::string_view kOverall = "The entropy for the overall reaction is ";
+constexpr std::string_view kReactionEnthalpy = "Enter the enthalpy change for the reaction.";
+constexpr std::string_view kTemperature = "Enter the temperature in degrees Kelvin.";
+constexpr std::string_view kReactionEntropy = "Enter the entropy for the reaction.";
+constexpr std::string_view kFreeEnergy = "The free energy for the reaction is ";
+
+constexpr std::string_view kAllBoxes = "You must enter a valid value in all boxes.";
+
+constexpr ControlSpec kControls[] = {
+    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 540, 60}},
+    {Kind::Option, "opt1", "Enthalpy", {16, 28, 140, 24}, {}, "Frame1"},
+    {Kind::Option, "opt2", "Entropy", {180, 28, 140, 24}, {}, "Frame1"},
+    {Kind::Option, "opt3", "Gibbs Free Energy", {344, 28, 180, 24}, {}, "Frame1"},
+    {Kind::Label, "Label1", "", {20, 90, 340, 22}},
+    {Kind::TextBox, "Text1", "", {364, 86, 196, 26}, {}, {}, -1, 0, &kThermoFilter},
+    {Kind::Label, "Label2", "", {20, 126, 340, 22}},
+    {Kind::TextBox, "Text2", "", {364, 122, 196, 26}, {}, {}, -1, 0, &kThermoFilter},
+    {Kind::Label, "Label3", "", {20, 162, 340, 22}},
+    {Kind::TextBox, "Text3", "", {364, 158, 80, 26}, {}, {}, -1, 0, &kThermoFilter},
+    {Kind::Label, "Label5", "", {444, 162, 36, 22}, {}, {}, -1, kCenter},
+    {Kind::TextBox, "Text5", "", {480, 158, 80, 26}, {}, {}, -1, 0, &kThermoDigitsFilter},
+    {Kind::Label, "Label4", "", {20, 206, 340, 22}},
+    {Kind::TextBox, "Text4", "", {364, 202, 150, 26}, {}, {}, -1, kDisabled},
+    {Kind::Label, "Label6", "", {520, 206, 40, 22}},
+    {Kind::TextBox, "Text6", "", {20, 240, 540, 26}, {}, {}, -1, kDisabled},
+    {Kind::Button, "cmdOk", "Ok", {20, 284, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {108, 284, 80, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {196, 284, 80, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {284, 284, 80, 30}},
+    {Kind::Button, "cmdHelp", "?", {528, 286, 32, 26}, "Press for help", {}, -1, kSmall},
+};
+
+}  // namespace
+
+frmThermoData::frmThermoData(Program& program)
+    : CalculatorScreen(program, {"frmThermoData", "Thermodynamic Calculations", 580, 330}, kControls,
+                       {"frmEnergy", "Text1", kHelp}) {
+  Bind("Form", Ev::Load, &frmThermoData::Form_Load);
+  Bind("cmdOk", Ev::Click, &frmThermoData::cmdOk_Click);
+  Bind("cmdClear", Ev::Click, &frmThermoData::cmdClear_Click);
+  Bind("opt1", Ev::Click, &frmThermoData::opt1_Click);
+  Bind("opt2", Ev::Click, &frmThermoData::opt2_Click);
+  Bind("opt3", Ev::Click, &frmThermoData::opt3_Click);
+  EnterRunsOk("Text1");
+  EnterRunsOk("Text2");
+  EnterRunsOk("Text3");
+  EnterRunsOk("Text5");
+}
+
+void frmThermoData::EmptyBoxes() {
+  ctl("Text1").SetText("");
+  ctl("Text2").SetText("");
+  ctl("Text3").SetText("");
+  ctl("Text4").SetText("");
+  ctl("Text5").SetText("");
+}
+
+// The short prompts set here give way at once to those of the enthalpy mode,
+// whose routine runs when it is selected.
+void frmThermoData::Form_Load() {
+  EmptyBoxes();
+  ctl("Label1").SetCaption("Enter the enthalpy value for the reactant.");
+  ctl("Label2").SetCaption("Enter the enthalpy value for the product.");
+  ctl("Label3").SetCaption(std::string(kRatio));
+  ctl("Label4").SetCaption(std::string(kEnthalpyChange));
+  ctl("Label5").SetCaption(" to ");
+  ctl("Text5").SetVisible(true);
+  ctl("opt1").SetValue(true);
+  DisableOkAndPrint();
+}
+
+void frmThermoData::opt1_Click() {
+  ctl("Label1").SetCaption(std::string(kReactant));
+  ctl("Label2").SetCaption(std::string(kProduct));
+  ctl("Label3").SetCaption(std::string(kRatio));
+  ctl("Label4").SetCaption(std::string(kEnthalpyChange));
+  ctl("Label5").SetCaption(" to ");
+  ctl("Label6").SetCaption("kJ");
+  ctl("Text3").SetVisible(true);
+  ctl("Text3").SetText("");
+  ctl("Text4").SetText("");
+  ctl("Text5").SetVisible(true);
+  ctl("Text5").SetText("");
+}
+
+// The coefficient boxes are hidden with their texts kept.
+void frmThermoData::opt2_Click() {
+  ctl("Label1").SetCaption(std::string(kProducts));
+  ctl("Label2").SetCaption(std::string(kReactants));
+  ctl("Label3").SetCaption("");
+  ctl("Label4").SetCaption(std::string(kOverall));
+  ctl("Label5").SetCaption("");
+  ctl("Text3").SetVisible(false);
+  ctl("Text4").SetText("");
+  ctl("Text5").SetVisible(false);
+}
+
+void frmThermoData::opt3_Click() {
+  ctl("Label1").SetCaption(std::string(kReactionEnthalpy));
+  ctl("Label2").SetCaption(std::string(kTemperature));
+  ctl("Label3").SetCaption(std::string(kReactionEntropy));
+  ctl("Label4").SetCaption(std::string(kFreeEnergy));
+  ctl("Label5").SetCaption("");
+  ctl("Text3").SetVisible(true);
+  ctl("Text4").SetText("");
+  ctl("Text5").SetVisible(false);
+  ctl("opt3").SetValue(true);
+}
+
+// Only the enthalpy mode calculates. The checks run on the texts, hidden
+// boxes included.
+void frmThermoData::cmdOk_Click() {
+  Trapped(kTrapDataEntryPoint, [&] {
+    const std::string text1 = ctl("Text1").Text();
+    const std::string text2 = ctl("Text2").Text();
+    const std::string text3 = ctl("Text3").Text();
+    const std::string text5 = ctl("Text5").Text();
+    const bool enthalpy = ctl("opt1").Value();
+    const bool gibbs = ctl("opt3").Value();
+    if (text1 == "0" || text1.empty()) {
+      MsgBox("You must enter a valid value all boxes.", Icon::Information, kTitle);
+      return;
+    }
+    if (text2.empty() || text1 == "0") {
+      MsgBox(kAllBoxes, Icon::Information, kTitle);
+      return;
+    }
+    if (enthalpy && (text3.empty() || text5.empty())) {
+      MsgBox("You must enter a valid value in the ratio boxes.", Icon::Information, kTitle);
+      return;
+    }
+    if (text3 == "0" || text5 == "0") {
+      MsgBox("You must enter an integer coefficient of one or greater.", Icon::Information, kTitle);
+      return;
+    }
+    if (enthalpy) {
+      const Single products = CSng(text5) * CSng(text2);
+      const Expr reactants = CSng(text1) * CSng(text3);
+      const Single change = products - reactants;
+      ctl("Text4").SetText(Str(change));
+      ctl("Text6").SetText("(" + text2 + " * " + text5 + ") - (" + text3 + " * " + text1 + ")");
+    }
+    if (gibbs && text3.empty()) {
+      MsgBox("You must enter a valid value in the entropy box.", Icon::Information, kTitle);
+      return;
+    }
+    if (gibbs && text2.empty()) {
+      MsgBox("You must enter a valid value in the temperature box.", Icon::Information, kTitle);
+      return;
+    }
+    if (gibbs && text2.empty()) {
+      MsgBox("You must enter a valid value in the enthalpy box.", Icon::Information, kTitle);
+      return;
+    }
+  });
+}
+
+// The option stays selected, so no option routine runs and the prompts
+// written here stay until the mode changes.
+void frmThermoData::cmdClear_Click() {
+  if (ctl("opt1").Value()) {
+    ctl("Label1").SetCaption(std::string(kReactant));
+    ctl("Label2").SetCaption("Enter the enthalpy value for the product kJ.");
+    ctl("Label3").SetCaption(std::string(kRatio));
+    ctl("Label4").SetCaption(std::string(kEnthalpyChange));
+    ctl("Label5").SetCaption(" To ");
+    ctl("Label6").SetCaption("kJ");
+    EmptyBoxes();
+    ctl("Text6").SetText("");
+    ctl("Text5").SetVisible(true);
+    ctl("opt1").SetValue(true);
+  } else if (ctl("opt2").Value()) {
+    ctl("Label1").SetCaption(std::string(kProducts));
+    ctl("Label2").SetCaption(std::string(kReactants));
+    ctl("Label3").SetCaption("");
+    ctl("Label4").SetCaption(std::string(kOverall));
+    ctl("Label5").SetCaption("");
+    EmptyBoxes();
+    ctl("Text6").SetText("");
+    ctl("Text3").SetVisible(false);
+    ctl("Text5").SetVisible(false);
+    ctl("opt2").SetValue(true);
+  } else if (ctl("opt3").Value()) {
+    ctl("Label1").SetCaption(std::string(kReactionEnthalpy));
+    ctl("Label2").SetCaption(std::string(kTemperature));
+    ctl("Label3").SetCaption(std::string(kReactionEntropy));
+    ctl("Label4").SetCaption(std::string(kFreeEnergy));
+    ctl("Label5").SetCaption("");
+    EmptyBoxes();
+    ctl("Text6").SetText("");
+    ctl("Text3").SetVisible(true);
+    ctl("Text5").SetVisible(false);
+    ctl("opt3").SetValue(true);
+  }
+  ctl("Text1").SetFocus();
+}
+
+}  // namespace orv
