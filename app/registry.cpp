@@ -12,6 +12,8 @@ void RegisterFormulaScreens(ScreenRegistry& r);
 void RegisterGasScreens(ScreenRegistry& r);
 void RegisterSolutionScreens(ScreenRegistry& r);
 void RegisterEnergyScreens(ScreenRegistry& r);
+void RegisterTableScreens(ScreenRegistry& r);
+void RegisterHelpScreens(ScreenRegistry& r);
 
 namespace {
 ScreenRegistry Build() {
@@ -24,6 +26,8 @@ ScreenRegistry Build() {
   RegisterGasScreens(r);
   RegisterSolutionScreens(r);
   RegisterEnergyScreens(r);
+  RegisterTableScreens(r);
+  RegisterHelpScreens(r);
   return r;
 }
 }  // namespace

@@ -1,0 +1,7 @@
+#include "shell/program.h"
+
+namespace orv {
+
+void RegisterHelpScreens(ScreenRegistry& /*r*/) {}
+
+}  // namespace orv

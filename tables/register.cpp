@@ -1,0 +1,7 @@
+#include "shell/program.h"
+
+namespace orv {
+
+void RegisterTableScreens(ScreenRegistry& /*r*/) {}
+
+}  // namespace orv
