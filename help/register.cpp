@@ -1,7 +1,8 @@
+#include "help/frmHelp.h"
 #include "shell/program.h"
 
 namespace orv {
 
-void RegisterHelpScreens(ScreenRegistry& /*r*/) {}
+void RegisterHelpScreens(ScreenRegistry& r) { r.Add<frmHelp>("frmHelp"); }
 
 }  // namespace orv

@@ -24,8 +24,10 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include "qtui/chart_widget.h"
 #include "qtui/picture_widget.h"
 #include "qtui/rich_text_widget.h"
+#include "qtui/tree_widget.h"
 #include "shell/picture.h"
 #include "shell/text.h"
 
@@ -326,6 +328,22 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
         w = new PictureWidget(parent);
         break;
       }
+      case Kind::Chart: {
+        w = new ChartWidget(parent);
+        break;
+      }
+      case Kind::Tree: {
+        auto* tree = new TreeWidget(parent, c);
+        // The tree's own signals run the runtime's node actions; none once
+        // its screen has gone.
+        tree->onInput = [this, tree](const std::function<void()>& input) {
+          if (syncing_ || program_ == nullptr || ControlOf(tree) == nullptr) return;
+          input();
+          AfterInput();
+        };
+        w = tree;
+        break;
+      }
       case Kind::RichText: {
         // Keys come through the runtime like a text box's; what the widget
         // reports itself is a paste or drop, and the caret.
@@ -452,8 +470,26 @@ void QtView::Sync(Control& c) {
   w->setEnabled(c.Enabled());
   w->setVisible(c.Visible());
   w->setToolTip(Q(c.ToolTip()));
+  // Colours the screen set: a button's face and caption, a label's ground
+  // and text. A control without any keeps the style's palette.
+  if (c.BackColor() != kNoColor || c.ForeColor() != kNoColor) {
+    const bool button = qobject_cast<QAbstractButton*>(w) != nullptr;
+    QPalette palette;  // only the roles set here; the rest as inherited
+    if (c.BackColor() != kNoColor) {
+      palette.setColor(button ? QPalette::Button : QPalette::Window, QColor::fromRgb(QRgb(c.BackColor())));
+      w->setAutoFillBackground(!button);
+    }
+    if (c.ForeColor() != kNoColor) {
+      palette.setColor(button ? QPalette::ButtonText : QPalette::WindowText, QColor::fromRgb(QRgb(c.ForeColor())));
+    }
+    w->setPalette(palette);
+  } else if (w->testAttribute(Qt::WA_SetPalette)) {
+    w->setPalette(QPalette());
+    w->setAutoFillBackground(false);
+  }
   const QString text = Q(c.Text());
   if (auto* rich = dynamic_cast<RichTextWidget*>(w)) rich->ShowControl(c);
+  if (auto* tree = dynamic_cast<TreeWidget*>(w)) tree->Show(c.tree());
   if (auto* edit = qobject_cast<QLineEdit*>(w)) {
     if (edit->text() != text) edit->setText(text);
     if (c.SelLength() > 0) {
@@ -492,6 +528,8 @@ void QtView::Sync(Control& c) {
     list->setCurrentRow(c.ListIndex());
   } else if (auto* picture = qobject_cast<PictureWidget*>(w)) {
     picture->Show(c.picture());
+  } else if (auto* chart = qobject_cast<ChartWidget*>(w)) {
+    chart->Show(c.chart());
   }
   syncing_ = false;
 }

@@ -75,9 +75,18 @@ void RichTextWidget::changeEvent(QEvent* e) {
   if (e->type() == QEvent::FontChange) PlaceLine();
 }
 
+void RichTextWidget::SetMultiLine(bool on) {
+  if (on == multiLine_) return;
+  multiLine_ = on;
+  setLineWrapMode(on ? QTextEdit::WidgetWidth : QTextEdit::NoWrap);
+  setVerticalScrollBarPolicy(on ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
+  PlaceLine();
+}
+
 void RichTextWidget::PlaceLine() {
   QTextFrameFormat frame = document()->rootFrame()->frameFormat();
-  const int top = std::max(0, (viewport()->height() - fontMetrics().lineSpacing()) / 2 - 1);
+  // One line stands in the middle of the box; a page starts at its top.
+  const int top = multiLine_ ? 2 : std::max(0, (viewport()->height() - fontMetrics().lineSpacing()) / 2 - 1);
   frame.setMargin(0);
   frame.setTopMargin(top);
   frame.setLeftMargin(4);
@@ -86,6 +95,7 @@ void RichTextWidget::PlaceLine() {
 }
 
 void RichTextWidget::ShowControl(const Control& c) {
+  SetMultiLine((c.flags() & kMultiLine) != 0);
   showing_ = true;
   const std::string& text = c.Text();
   const std::vector<int>& offsets = c.rich().Offsets();

@@ -1,6 +1,7 @@
 #pragma once
 // The rich text box: one line of text whose characters stand on the line,
-// lowered (subscript) or raised (superscript), as the control's offsets say.
+// lowered (subscript) or raised (superscript), as the control's offsets say;
+// or, for a box of several lines, a page of text that wraps and scrolls.
 // The runtime edits the text; this widget only shows it, and tells of the
 // caret and of edits that bypass the keys (pasting, dropping).
 
@@ -44,7 +45,11 @@ class RichTextWidget : public QTextEdit {
   // Tells of an edit that the user made to the text shown, if any.
   void ReportEdit();
 
+  // Sets the box up for one line or for several, as the control says.
+  void SetMultiLine(bool on);
+
   bool showing_ = false;
+  bool multiLine_ = false;
   QString shownText_;
 };
 

@@ -13,20 +13,27 @@
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <deque>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <memory>
 #include <optional>
 #include <sstream>
 
 #include "app/registry.h"
+#include "qtui/chart_widget.h"
 #include "qtui/picture_widget.h"
 #include "qtui/qt_view.h"
 #include "qtui/rich_text_widget.h"
+#include "qtui/tree_widget.h"
+#include "shell/chart.h"
 #include "shell/picture.h"
 #include "shell/rich_text.h"
 #include "shell/text.h"
+#include "shell/tree.h"
 
 namespace orv::scenario {
 
@@ -332,6 +339,8 @@ class Run {
   void Type(Control& c, const std::string& text);
   void Paste(Control& c, const std::string& text);
   void Select(Control& c, int row);
+  void ClickNode(Control& c, const std::string& key, bool twice);
+  void ExpectTree(Control& c, const std::vector<Token>& t);
   void FocusForTyping(Control& c);
   void Expect(const std::vector<Token>& t);
   void ExpectControl(Control& c, const std::vector<Token>& t);
@@ -617,6 +626,37 @@ void Run::ExpectControl(Control& c, const std::vector<Token>& t) {
     if (shown != t[3].text) Fail(c.key() + " has the offsets " + Quote(shown) + ", expected " + Quote(t[3].text));
     return;
   }
+  if ((what == "backcolor" || what == "forecolor") && t.size() == 4) {
+    // RRGGBB, or "none" where the control keeps the style's colour. Through
+    // Qt this is the role the widget's own palette sets.
+    const bool back = what == "backcolor";
+    int rgb = back ? c.BackColor() : c.ForeColor();
+    if (options_.qt && c.kind() != Kind::Menu) {
+      QWidget* w = W(c);
+      const bool button = qobject_cast<QAbstractButton*>(w) != nullptr;
+      const QPalette::ColorRole role = back ? (button ? QPalette::Button : QPalette::Window)
+                                            : (button ? QPalette::ButtonText : QPalette::WindowText);
+      const bool set = w->testAttribute(Qt::WA_SetPalette) && w->palette().isBrushSet(QPalette::Active, role);
+      rgb = set ? static_cast<int>(w->palette().color(QPalette::Active, role).rgb() & 0xFFFFFFu) : kNoColor;
+    }
+    const std::string shown =
+        rgb == kNoColor ? "none" : QString("%1").arg(rgb, 6, 16, QChar('0')).toUpper().toStdString();
+    if (shown != t[3].text) Fail(c.key() + " has the " + what + " " + shown + ", expected " + t[3].text);
+    return;
+  }
+  if (what == "file" && t.size() == 4 && t[3].quoted) {
+    // The whole text of a file beside the executables, line ends as line feeds.
+    std::ifstream in(std::filesystem::path(options_.exeDir) / t[3].text, std::ios::binary);
+    if (!in) Fail("cannot read " + Quote(t[3].text));
+    std::ostringstream content;
+    content << in.rdbuf();
+    std::string wanted;
+    for (char ch : content.str()) {
+      if (ch != '\r') wanted += ch;
+    }
+    if (ShownText(c) != wanted) Fail(c.key() + " does not show the text of " + Quote(t[3].text));
+    return;
+  }
   if (what == "tooltip" && t.size() == 4) {
     const std::string tip = ShownToolTip(c);
     if (tip != t[3].text) Fail(c.key() + " has the tool tip " + Quote(tip) + ", expected " + Quote(t[3].text));
@@ -658,6 +698,105 @@ void Run::ExpectControl(Control& c, const std::vector<Token>& t) {
            Quote(t[4].text));
     }
     return;
+  }
+  if (c.kind() == Kind::Chart) {
+    // A chart as it is painted: through Qt the widget's copy, headless the model's.
+    const ChartContent* chart = &c.chart().content();
+    if (options_.qt) {
+      auto* widget = qobject_cast<qt::ChartWidget*>(W(c));
+      if (widget == nullptr) Fail("no chart widget for " + c.key());
+      chart = &widget->Content();
+    }
+    auto same = [&](const std::string& name, const std::string& shown, const std::string& wanted) {
+      if (shown != wanted) Fail(c.key() + " has the " + name + " " + Quote(shown) + ", expected " + Quote(wanted));
+    };
+    const int n = static_cast<int>(chart->points.size());
+    if (what == "points" && t.size() == 4) return same("number of points", std::to_string(n), t[3].text);
+    if (what == "point" && t.size() == 5) {
+      const int k = std::stoi(t[3].text);
+      if (k < 0 || k >= n) Fail(c.key() + " has no point " + t[3].text + " of " + std::to_string(n));
+      return same("point " + t[3].text, Describe(chart->points[static_cast<std::size_t>(k)]), t[4].text);
+    }
+    if (what == "title" && t.size() == 4) return same("title", chart->title, t[3].text);
+    if (what == "footnote" && t.size() == 4) return same("footnote", chart->footnote, t[3].text);
+    if (what == "type" && t.size() == 4) return same("chart type", ChartTypeName(chart->type), t[3].text);
+    if (what == "axis" && t.size() == 5 && (t[3].text == "category" || t[3].text == "value")) {
+      const bool category = t[3].text == "category";
+      return same(t[3].text + " axis title", category ? chart->categoryTitle : chart->valueTitle, t[4].text);
+    }
+  }
+  if (c.kind() == Kind::Tree) return ExpectTree(c, t);
+  Fail("unknown expectation '" + what + "'");
+}
+
+void Run::ClickNode(Control& c, const std::string& key, bool twice) {
+  if (c.kind() != Kind::Tree) Fail(c.key() + " is no tree view");
+  // The user can reach only a node whose branches above are all open.
+  if (!options_.qt) {
+    if (!c.tree().Shown(key)) Fail(c.key() + " does not show the node " + Quote(key));
+    if (twice)
+      UserDblClickNode(c, key);
+    else
+      UserClickNode(c, key);
+    return;
+  }
+  auto* tree = dynamic_cast<qt::TreeWidget*>(W(c));
+  if (tree == nullptr) Fail("no tree widget for " + c.key());
+  QTreeWidgetItem* item = tree->ItemOf(key);
+  if (!qt::TreeWidget::Shown(item)) Fail(c.key() + " does not show the node " + Quote(key));
+  tree->scrollToItem(item);
+  Settle();
+  const QPoint at = tree->visualItemRect(item).center();
+  // A double click is a click, then the second press that the toolkit
+  // reports as the double click.
+  QTest::mouseClick(tree->viewport(), Qt::LeftButton, {}, at);
+  if (twice) QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, at);
+  Settle();
+}
+
+void Run::ExpectTree(Control& c, const std::vector<Token>& t) {
+  // What the tree shows: through Qt read from the widget's items, headless
+  // from the model.
+  struct Node {
+    std::string text;
+    bool expanded = false;
+    bool selected = false;
+  };
+  std::map<std::string, Node> nodes;
+  if (options_.qt) {
+    auto* tree = dynamic_cast<qt::TreeWidget*>(W(c));
+    if (tree == nullptr) Fail("no tree widget for " + c.key());
+    for (QTreeWidgetItemIterator it(tree); *it != nullptr; ++it) {
+      nodes[qt::TreeWidget::KeyOf(*it)] = {(*it)->text(0).toStdString(), (*it)->isExpanded(),
+                                           tree->currentItem() == *it && (*it)->isSelected()};
+    }
+  } else {
+    const TreeNode* selected = c.tree().SelectedItem();
+    for (const TreeNode& n : c.tree().Nodes()) nodes[n.key] = {n.text, n.expanded, selected == &n};
+  }
+  const std::string what = t[2].text;
+  if (what == "nodes" && t.size() == 4) {
+    if (std::to_string(nodes.size()) != t[3].text) {
+      Fail(c.key() + " has " + std::to_string(nodes.size()) + " nodes, expected " + t[3].text);
+    }
+    return;
+  }
+  if (what == "node" && t.size() == 5 && t[3].quoted) {
+    auto it = nodes.find(t[3].text);
+    if (it == nodes.end()) Fail(c.key() + " has no node " + Quote(t[3].text));
+    const Node& n = it->second;
+    const std::string& state = t[4].text;
+    if (t[4].quoted) {
+      if (n.text != state) Fail("node " + Quote(t[3].text) + " shows " + Quote(n.text) + ", expected " + Quote(state));
+      return;
+    }
+    auto check = [&](bool ok) {
+      if (!ok) Fail("node " + Quote(t[3].text) + " is not " + state);
+    };
+    if (state == "expanded") return check(n.expanded);
+    if (state == "collapsed") return check(!n.expanded);
+    if (state == "selected") return check(n.selected);
+    if (state == "unselected") return check(!n.selected);
   }
   Fail("unknown expectation '" + what + "'");
 }
@@ -758,6 +897,9 @@ bool Run::Step(const std::vector<Token>& t) {
     if (!P().IsBuilt(name)) Fail(name + " is not built");
     P().UserAction([&] { P().Show(name); });
     Settle();
+  } else if ((verb == "click" || verb == "dblclick") && t.size() == 3 && t[2].quoted) {
+    // A node of a tree view, by its key.
+    ClickNode(Ctl(ParseTarget(t[1].text)), t[2].text, verb == "dblclick");
   } else if (verb == "click" || verb == "dblclick") {
     if (t.size() != 2 && t.size() != 3) Fail(verb + " FORM.CTRL [N]");
     // "click FORM.CTRL N" clicks N times; only the last click may leave a

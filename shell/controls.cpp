@@ -3,13 +3,18 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
 
+#include "shell/chart.h"
 #include "shell/errors.h"
 #include "shell/form.h"
 #include "shell/picture.h"
 #include "shell/program.h"
 #include "shell/rich_text.h"
 #include "shell/text.h"
+#include "shell/tree.h"
 
 namespace orv {
 
@@ -34,6 +39,14 @@ Control::Control(Form& form, const ControlSpec& design)
     picture_->onChange = [this] { Notify(Prop::Content); };
   }
   if (kind_ == Kind::RichText) rich_ = std::make_shared<RichText>();
+  if (kind_ == Kind::Tree) {
+    tree_ = std::make_shared<Tree>();
+    tree_->onChange = [this] { Notify(Prop::Content); };
+  }
+  if (kind_ == Kind::Chart) {
+    chart_ = std::make_shared<Chart>();
+    chart_->onChange = [this] { Notify(Prop::Content); };
+  }
 }
 
 Picture& Control::picture() const {
@@ -44,12 +57,44 @@ Picture& Control::picture() const {
   return *picture_;
 }
 
+Chart& Control::chart() const {
+  if (!chart_) {
+    std::fprintf(stderr, "%s is no chart\n", name_.c_str());
+    std::abort();
+  }
+  return *chart_;
+}
+
 const RichText& Control::rich() const {
   if (!rich_) {
     std::fprintf(stderr, "%s is no rich text box\n", name_.c_str());
     std::abort();
   }
   return *rich_;
+}
+
+Tree& Control::tree() const {
+  if (!tree_) {
+    std::fprintf(stderr, "%s is no tree view\n", name_.c_str());
+    std::abort();
+  }
+  return *tree_;
+}
+
+void Control::LoadFile(const std::string& path) {
+  if (!rich_) static_cast<void>(rich());  // aborts
+  std::error_code ec;
+  if (!std::filesystem::is_regular_file(path, ec)) Raise(ErrorCode::FileNotFound);
+  std::ifstream in(path, std::ios::binary);
+  if (!in) Raise(ErrorCode::FileNotFound);
+  std::ostringstream content;
+  content << in.rdbuf();
+  // Lines end in a line feed alone, whatever the file used.
+  std::string text;
+  for (char c : content.str()) {
+    if (c != '\r') text += c;
+  }
+  SetText(std::move(text));
 }
 
 int Control::SelCharOffset() const { return rich().TypingOffset(); }
@@ -104,6 +149,18 @@ void Control::SetToolTip(std::string tip) {
   if (tip == toolTip_) return;
   toolTip_ = std::move(tip);
   Notify(Prop::ToolTip);
+}
+
+void Control::SetBackColor(int rgb) {
+  if (rgb == backColor_) return;
+  backColor_ = rgb;
+  Notify(Prop::Color);
+}
+
+void Control::SetForeColor(int rgb) {
+  if (rgb == foreColor_) return;
+  foreColor_ = rgb;
+  Notify(Prop::Color);
 }
 
 void Control::SelectOption(bool runClick) {

@@ -12,8 +12,10 @@
 namespace orv {
 
 class Form;
+class Chart;
 class Picture;
 class RichText;
+class Tree;
 
 enum class Kind {
   TextBox,
@@ -71,7 +73,10 @@ struct ControlSpec {
 };
 
 // Properties that a view mirrors.
-enum class Prop { Text, Enabled, Visible, Value, ToolTip, List, ListIndex, Selection, Role, Content };
+enum class Prop { Text, Enabled, Visible, Value, ToolTip, List, ListIndex, Selection, Role, Content, Color };
+
+// A colour as 0xRRGGBB; kNoColor leaves the toolkit's own colour.
+inline constexpr int kNoColor = -1;
 
 class Control {
  public:
@@ -104,6 +109,12 @@ class Control {
   void SetVisible(bool on);
   const std::string& ToolTip() const { return toolTip_; }
   void SetToolTip(std::string tip);
+  // Back colour (a button's face, a label's ground) and fore colour (the
+  // caption), 0xRRGGBB or kNoColor.
+  int BackColor() const { return backColor_; }
+  void SetBackColor(int rgb);
+  int ForeColor() const { return foreColor_; }
+  void SetForeColor(int rgb);
 
   // Option buttons and check boxes. Selecting an option button from code
   // runs its Click when it was not selected and clears the other option
@@ -138,6 +149,10 @@ class Control {
   // control for it is a programming error and aborts.
   Picture& picture() const;
 
+  // Charts: the chart's data and settings (shell/chart.h). Asking any other
+  // control for them is a programming error and aborts.
+  Chart& chart() const;
+
   // Rich text boxes: each character's offset from the line and that of the
   // next typed character (shell/rich_text.h). Setting the offset with
   // characters selected moves them as well. Asking any other control for
@@ -145,6 +160,13 @@ class Control {
   const RichText& rich() const;
   int SelCharOffset() const;
   void SetSelCharOffset(int offset);
+  // Rich text boxes: replaces the text with that of a plain text file. A
+  // file that is missing or cannot be read is a run-time error.
+  void LoadFile(const std::string& path);
+
+  // Tree views: the nodes (shell/tree.h). Asking any other control for them
+  // is a programming error and aborts.
+  Tree& tree() const;
 
   // Whether the user can reach the control: it, its container and its
   // screen are enabled and visible.
@@ -170,6 +192,8 @@ class Control {
 
   std::string text_;
   std::string toolTip_;
+  int backColor_ = kNoColor;
+  int foreColor_ = kNoColor;
   bool enabled_ = true;
   bool visible_ = true;
   bool value_ = false;
@@ -180,7 +204,9 @@ class Control {
   std::vector<std::string> list_;
   int listIndex_ = -1;
   std::shared_ptr<Picture> picture_;  // picture boxes only
+  std::shared_ptr<Chart> chart_;      // charts only
   std::shared_ptr<RichText> rich_;    // rich text boxes only
+  std::shared_ptr<Tree> tree_;        // tree views only
 };
 
 }  // namespace orv

@@ -2,7 +2,7 @@
 
 #include "data/store.h"
 #include "shell/screens/module1.h"
-#include "solutions/padded_row.h"
+#include "tables/padded_row.h"
 
 namespace orv {
 

@@ -1,4 +1,4 @@
-#include "solutions/padded_row.h"
+#include "tables/padded_row.h"
 
 #include "shell/numbers.h"
 #include "shell/text.h"
