@@ -4,13 +4,13 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 #include <set>
 #include <sstream>
 #include <string>
 #include <vector>
 
-#include "app/registry.h"
-#include "shell/program.h"
+#include "screen_run.h"
 #include "shell/tree.h"
 
 namespace orv {
@@ -36,36 +36,34 @@ TEST(Tree, NodesGoWhereTheirRelationshipSays) {
   EXPECT_EQ(ChildKeys(t, "c"), (std::vector<std::string>{"c1"}));
   EXPECT_EQ(ChildKeys(t, ""), (std::vector<std::string>{"r Root"}));
   EXPECT_EQ(t.Find("c1")->parentKey, "c");
-  EXPECT_EQ(t.Count(), 8);
 }
 
 TEST(Tree, KeysMustBeUniqueNamesAndRelativesMustExist) {
   Tree t;
   t.Add("r Root", "Root");
-  auto fails = [](auto&& fn) {
-    try {
-      fn();
-    } catch (const RuntimeError& e) {
-      return e.code() == ErrorCode::InvalidProcedureCall;
-    }
-    return false;
+  const std::function<void()> bad[] = {
+      [&] { t.Add("r Root", "Again"); },
+      [&] { t.Add("r Root", TreeRelation::Child, "r Root", "Again"); },
+      [&] { t.Add("r Root", TreeRelation::Child, "42", "A number"); },
+      [&] { t.Add("r Root", TreeRelation::Child, "", "No key"); },
+      [&] { t.Add("nowhere", TreeRelation::Child, "x", "Orphan"); },
+      [&] { t.Select("nowhere"); },
   };
-  EXPECT_TRUE(fails([&] { t.Add("r Root", "Again"); }));
-  EXPECT_TRUE(fails([&] { t.Add("r Root", TreeRelation::Child, "r Root", "Again"); }));
-  EXPECT_TRUE(fails([&] { t.Add("r Root", TreeRelation::Child, "42", "A number"); }));
-  EXPECT_TRUE(fails([&] { t.Add("r Root", TreeRelation::Child, "", "No key"); }));
-  EXPECT_TRUE(fails([&] { t.Add("nowhere", TreeRelation::Child, "x", "Orphan"); }));
-  EXPECT_TRUE(fails([&] { t.Select("nowhere"); }));
+  for (const auto& fn : bad) EXPECT_EQ(test::Raised(fn), "Invalid procedure call or argument");
   EXPECT_EQ(t.Count(), 1);
   t.Add("r Root", TreeRelation::Child, "s 42", "Prefixed number");
   EXPECT_EQ(t.Count(), 2);
 }
 
-TEST(Tree, ANodeShowsWhenEveryBranchAboveIsOpen) {
+TEST(Tree, ShownUnderOpenBranchesAndTheSelectedPicture) {
   Tree t;
-  t.Add("r", "Root");
-  t.Add("r", TreeRelation::Child, "s", "Head");
+  int changes = 0;
+  t.onChange = [&] { ++changes; };
+  t.SetImageList({"closed", "open"});
+  t.Add("r", "Root", 1, 2);
+  t.Add("r", TreeRelation::Child, "s", "Head", 1, 0);
   t.Add("s", TreeRelation::Child, "t", "Topic");
+  t.Add("r", TreeRelation::Child, "x", "Bad index", 3, 2);
   EXPECT_TRUE(t.Shown("r"));
   EXPECT_FALSE(t.Shown("s"));
   t.SetExpanded("s", true);
@@ -75,19 +73,9 @@ TEST(Tree, ANodeShowsWhenEveryBranchAboveIsOpen) {
   t.SetExpanded("r", false);
   EXPECT_FALSE(t.Shown("t"));
   EXPECT_TRUE(t.Find("s")->expanded);
-}
 
-TEST(Tree, TheSelectedNodeShowsItsSelectedPicture) {
-  Tree t;
-  int changes = 0;
-  t.onChange = [&] { ++changes; };
-  t.SetImageList({"closed", "open"});
-  t.Add("r", "Root", 1, 2);
-  t.Add("r", TreeRelation::Child, "s", "Head", 1, 0);
-  t.Add("r", TreeRelation::Child, "x", "Bad index", 3, 2);
   EXPECT_EQ(t.PictureOf(*t.Find("r")), "closed");
   t.Select("r");
-  EXPECT_EQ(t.SelectedItem()->key, "r");
   EXPECT_EQ(t.PictureOf(*t.Find("r")), "open");
   t.Select("s");
   EXPECT_EQ(t.PictureOf(*t.Find("r")), "closed");
@@ -103,59 +91,15 @@ TEST(Tree, TheSelectedNodeShowsItsSelectedPicture) {
 
 // --- the help browser ---
 
-class Messages : public MessageService {
- public:
-  void Show(std::string_view text, Icon icon, std::string_view title) override {
-    boxes.push_back(std::string(title) + "|" + std::to_string(static_cast<int>(icon)) + "|" + std::string(text));
-  }
-  void ShowFatal(std::string_view words) override { fatal = std::string(words); }
-  std::vector<std::string> boxes;
-  std::string fatal;
-};
-class Printer : public PrintService {
- public:
-  explicit Printer(bool available) : available_(available) {}
-  void PrintImage(Form& form) override {
-    if (!available_) Raise(ErrorCode::PrinterError);
-    printed.push_back(form.name());
-  }
-  std::vector<std::string> printed;
-
- private:
-  bool available_;
-};
-class Launcher : public LaunchService {
- public:
-  void LaunchCalculator() override {}
-};
-
-struct HelpRun {
-  explicit HelpRun(const std::string& dir, bool printer = true)
-      : printer(printer), program(AllScreens(), {&messages, &this->printer, &launcher, nullptr}, dir) {
-    program.Start();
-    messages.boxes.clear();  // the start-up's own messages
-    program.UserAction([&] { program.Show("frmHelp"); });
-    help = program.Find("frmHelp");
-  }
+struct HelpRun : test::ScreenRun {
+  explicit HelpRun(const std::string& folder = ORVANTA_BIN_DIR) : ScreenRun("", folder), help(Show("frmHelp")) {}
   Control& tree() const { return help->ctl("TreeView1"); }
   Control& rtb() const { return help->ctl("RTB1"); }
-
-  Messages messages;
-  Printer printer;
-  Launcher launcher;
-  Program program;
-  Form* help = nullptr;
+  Form* help;
 };
 
-std::string FileText(const std::string& name) {
-  std::ifstream in(std::string(ORVANTA_BIN_DIR) + "/" + name, std::ios::binary);
-  std::ostringstream s;
-  s << in.rdbuf();
-  return s.str();
-}
-
 TEST(Help, EveryTopicOpensAFileOfItsOwnAndOnlyTheBareHeadsOpenNone) {
-  HelpRun run(ORVANTA_BIN_DIR);
+  HelpRun run;
   ASSERT_NE(run.help, nullptr);
   const Tree& tree = run.tree().tree();
   ASSERT_EQ(tree.Count(), 54);
@@ -184,16 +128,26 @@ TEST(Help, EveryTopicOpensAFileOfItsOwnAndOnlyTheBareHeadsOpenNone) {
   EXPECT_FALSE(run.program.Ended());
 }
 
-TEST(Help, TopicsAreFoundByTheirVisibleText) {
-  HelpRun run(ORVANTA_BIN_DIR);
+TEST(Help, TopicsFoundByVisibleTextThenClearPrintAndCancel) {
+  HelpRun run;
   run.tree().tree().SetExpanded("r Orvanta", true);
   run.tree().tree().SetExpanded("s Gases", true);
   UserDblClickNode(run.tree(), "s Molecular Weight");  // shown as "Molecular  Weight"
-  EXPECT_EQ(run.rtb().Text(), FileText("MolecularWeight.txt"));
-  UserDblClickNode(run.tree(), "s Moles");
-  EXPECT_EQ(run.rtb().Text(), FileText("Moles.txt"));
-  EXPECT_TRUE(run.tree().tree().Find("s Moles")->expanded);
+  std::ifstream file(ORVANTA_BIN_DIR "/MolecularWeight.txt", std::ios::binary);
+  std::ostringstream text;
+  text << file.rdbuf();
+  EXPECT_EQ(run.rtb().Text(), text.str());
   EXPECT_TRUE(run.messages.boxes.empty());
+
+  run.program.UserClick(run.help->ctl("cmdPrint"));
+  EXPECT_EQ(run.printer.printed, (std::vector<std::string>{"frmHelp"}));
+  run.program.UserClick(run.help->ctl("cmdClear"));
+  EXPECT_EQ(run.rtb().Text(), "");
+  EXPECT_EQ(run.tree().tree().SelectedItem()->key, "s Molecular Weight");
+  EXPECT_TRUE(run.tree().tree().Find("r Orvanta")->expanded);
+  run.program.UserClick(run.help->ctl("cmdCancel"));
+  EXPECT_EQ(run.program.Find("frmHelp"), nullptr);
+  EXPECT_FALSE(run.program.Ended());
 }
 
 TEST(Help, AMissingFileIsReportedAndTheTextStays) {
@@ -208,34 +162,18 @@ TEST(Help, AMissingFileIsReportedAndTheTextStays) {
   EXPECT_TRUE(run.help->Visible());
 }
 
-TEST(Help, ClearCancelAndPrint) {
-  HelpRun run(ORVANTA_BIN_DIR);
-  run.tree().tree().SetExpanded("r Orvanta", true);
-  UserDblClickNode(run.tree(), "s Using");
-  ASSERT_FALSE(run.rtb().Text().empty());
-  run.program.UserClick(run.help->ctl("cmdPrint"));
-  EXPECT_EQ(run.printer.printed, (std::vector<std::string>{"frmHelp"}));
-  run.program.UserClick(run.help->ctl("cmdClear"));
-  EXPECT_EQ(run.rtb().Text(), "");
-  EXPECT_EQ(run.tree().tree().SelectedItem()->key, "s Using");
-  EXPECT_TRUE(run.tree().tree().Find("r Orvanta")->expanded);
-  run.program.UserClick(run.help->ctl("cmdCancel"));
-  EXPECT_EQ(run.program.Find("frmHelp"), nullptr);
-  EXPECT_FALSE(run.program.Ended());
-}
-
-TEST(Help, PrintingWithoutAPrinterEndsTheProgram) {
-  HelpRun run(ORVANTA_BIN_DIR, false);
-  run.program.UserClick(run.help->ctl("cmdPrint"));
-  EXPECT_TRUE(run.program.Ended());
-  EXPECT_EQ(run.messages.fatal, "Printer error");
-}
-
-TEST(Help, ADoubleClickWithNoNodeSelectedEndsTheProgram) {
-  HelpRun run(ORVANTA_BIN_DIR);
-  run.program.UserDblClick(run.tree());
-  EXPECT_TRUE(run.program.Ended());
-  EXPECT_EQ(run.messages.fatal, "Object variable or With block variable not set");
+TEST(Help, PrintingWithoutAPrinterOrDoubleClickingNoNodeEndsTheProgram) {
+  for (const bool print : {true, false}) {
+    HelpRun run;
+    run.printer.available = false;
+    if (print) {
+      run.program.UserClick(run.help->ctl("cmdPrint"));
+    } else {
+      run.program.UserDblClick(run.tree());
+    }
+    EXPECT_TRUE(run.program.Ended());
+    EXPECT_EQ(run.messages.fatal, print ? "Printer error" : "Object variable or With block variable not set");
+  }
 }
 
 }  // namespace

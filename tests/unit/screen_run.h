@@ -1,0 +1,102 @@
+// A fresh program over a scratch folder, optionally holding a small database,
+// with services that record what the user would have seen.
+
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <stdlib.h>
+
+#include <filesystem>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "app/registry.h"
+#include "data/store.h"
+#include "shell/program.h"
+
+namespace orv::test {
+
+struct ScratchDir {
+  ScratchDir() {
+    std::string pattern = (std::filesystem::temp_directory_path() / "orvanta-unit-XXXXXX").string();
+    path = mkdtemp(pattern.data()) ? pattern : throw std::runtime_error("mkdtemp failed");
+  }
+  ~ScratchDir() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path, ignored);
+  }
+  std::filesystem::path path;
+};
+
+// Creates the database file the program looks for in `dir`; returns its name.
+inline std::string MakeDatabase(const std::filesystem::path& dir, const std::string& sql) {
+  const std::string file = (dir / std::string(data::kDatabaseFileName)).string();
+  sqlite3* db = nullptr;
+  EXPECT_EQ(sqlite3_open(file.c_str(), &db), SQLITE_OK);
+  EXPECT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
+  sqlite3_close(db);
+  return file;
+}
+
+// The words of the run-time error `f` raises.
+inline std::string Raised(const std::function<void()>& f) {
+  try {
+    f();
+  } catch (const RuntimeError& e) {
+    return e.words();
+  }
+  return "nothing raised";
+}
+
+// Boxes as "title|icon number|text".
+class RecordedMessages : public MessageService {
+ public:
+  void Show(std::string_view text, Icon icon, std::string_view title) override {
+    boxes.push_back(std::string(title) + "|" + std::to_string(static_cast<int>(icon)) + "|" + std::string(text));
+  }
+  void ShowFatal(std::string_view words) override { fatal = std::string(words); }
+  std::vector<std::string> boxes;
+  std::string fatal;
+};
+class RecordedPrinter : public PrintService {
+ public:
+  void PrintImage(Form& form) override {
+    if (!available) Raise(ErrorCode::PrinterError);
+    printed.push_back(form.name());
+  }
+  bool available = true;
+  std::vector<std::string> printed;
+};
+class NoLauncher : public LaunchService {
+ public:
+  void LaunchCalculator() override {}
+};
+
+// Started on a database made of `sql` (none when empty) in a scratch folder,
+// or on `folder` when one is given. The start-up's boxes are counted, then
+// cleared.
+struct ScreenRun {
+  explicit ScreenRun(const std::string& sql, const std::string& folder = "")
+      : program(AllScreens(), {&messages, &printer, &launcher, nullptr}, folder.empty() ? dir.path.string() : folder) {
+    if (!sql.empty()) MakeDatabase(dir.path, sql);
+    program.Start();
+    startupBoxes = messages.boxes.size();
+    messages.boxes.clear();
+  }
+  Form* Show(const std::string& screen) {
+    program.UserAction([&] { program.Show(screen); });
+    return program.Find(screen);
+  }
+
+  ScratchDir dir;
+  RecordedMessages messages;
+  RecordedPrinter printer;
+  NoLauncher launcher;
+  Program program;
+  std::size_t startupBoxes = 0;
+};
+
+}  // namespace orv::test
