@@ -208,9 +208,7 @@ void fmrMoles::cmdOk_Click() {
 
 void fmrMoles::cmdClear_Click() {
   ctl("lstList1").SetListIndex(-1);
-  ctl("txtMoles1").SetText("");
-  ctl("txtMoles2").SetText("");
-  ctl("txtMoles3").SetText("");
+  EmptyBoxes({"txtMoles1", "txtMoles2", "txtMoles3"});
   ctl("txtMoles1").SetFocus();
   for (const char* name : kOptions) ctl(name).SetEnabled(true);
   ctl("lblMoles5").SetCaption("");

@@ -62,13 +62,7 @@ void frmChangeOfState::SetCaptions(std::string_view heat, std::string_view resul
   ctl("Label5").SetCaption(std::string(kUnit));
 }
 
-void frmChangeOfState::EmptyBoxes() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
-}
+void frmChangeOfState::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
 
 void frmChangeOfState::Form_Load() {
   EmptyBoxes();

@@ -49,11 +49,7 @@ frmEnergyChange::frmEnergyChange(Program& program)
 }
 
 void frmEnergyChange::Form_Load() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   DisableOkAndPrint();
 }
 
@@ -82,11 +78,7 @@ void frmEnergyChange::cmdOk_Click() {
 }
 
 void frmEnergyChange::cmdClear_Click() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   ctl("Text1").SetFocus();
 }
 

@@ -66,13 +66,7 @@ frmFaradays::frmFaradays(Program& program)
 
 // Every box but the minutes, which the moles and liters modes hide with
 // their text kept.
-void frmFaradays::EmptyBoxes() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text6").SetText("");
-  ctl("Text4").SetText("");
-}
+void frmFaradays::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text6", "Text4"}); }
 
 void frmFaradays::SetCaptions(std::string_view first, std::string_view second, std::string_view minutes,
                               std::string_view result, std::string_view unit) {

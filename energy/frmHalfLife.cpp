@@ -50,13 +50,7 @@ frmHalfLife::frmHalfLife(Program& program)
   EnterRunsOk("Text4");
 }
 
-void frmHalfLife::EmptyBoxes() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
-}
+void frmHalfLife::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
 
 void frmHalfLife::SetCaptions(std::string_view result, std::string_view last, std::string_view unit) {
   ctl("Label2").SetCaption(std::string(kHalfLife));

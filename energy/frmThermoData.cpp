@@ -69,13 +69,7 @@ frmThermoData::frmThermoData(Program& program)
   EnterRunsOk("Text5");
 }
 
-void frmThermoData::EmptyBoxes() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
-}
+void frmThermoData::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
 
 // The short prompts set here give way at once to those of the enthalpy mode,
 // whose routine runs when it is selected.
@@ -99,8 +93,7 @@ void frmThermoData::opt1_Click() {
   ctl("Label5").SetCaption(" to ");
   ctl("Label6").SetCaption("kJ");
   ctl("Text3").SetVisible(true);
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
+  Form::EmptyBoxes({"Text3", "Text4"});
   ctl("Text5").SetVisible(true);
   ctl("Text5").SetText("");
 }

@@ -82,8 +82,7 @@ void frmWeights::ResetTypingState() {
 // names, between the result and the formula.
 void frmWeights::EmptyScreen(std::string_view alsoEmpty) {
   FormulaModule& m = Formulas(program());
-  ctl("RichTextBox1").SetText("");
-  ctl("txtWeights2").SetText("");
+  EmptyBoxes({"RichTextBox1", "txtWeights2"});
   if (!alsoEmpty.empty()) ctl(alsoEmpty).SetText("");
   m.FormulaText = "";
   ctl("chk1").SetValue(false);

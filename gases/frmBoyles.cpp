@@ -63,11 +63,7 @@ void frmBoyles::SetPrompts(std::string_view upper, std::string_view lower, std::
 }
 
 void frmBoyles::Form_Load() {
-  ctl("txtInitialVolume").SetText("");
-  ctl("txtInitialPressure").SetText("");
-  ctl("txtFinalEntry").SetText("");
-  ctl("txtFinalAnswer").SetText("");
-  ctl("Text1").SetText("");
+  EmptyBoxes({"txtInitialVolume", "txtInitialPressure", "txtFinalEntry", "txtFinalAnswer", "Text1"});
   ctl("opt1").SetEnabled(true);
   ctl("opt2").SetEnabled(true);
   ctl("Label3").SetCaption("");
@@ -127,11 +123,7 @@ void frmBoyles::cmdOk_Click() {
 // mode they stay in their short form, as selecting it again runs nothing.
 void frmBoyles::cmdClear_Click() {
   const bool findVolume = ctl("opt2").Value();
-  ctl("txtInitialPressure").SetText("");
-  ctl("txtInitialVolume").SetText("");
-  ctl("Text1").SetText("");
-  ctl("txtFinalEntry").SetText("");
-  ctl("txtFinalAnswer").SetText("");
+  EmptyBoxes({"txtInitialPressure", "txtInitialVolume", "Text1", "txtFinalEntry", "txtFinalAnswer"});
   ctl("opt1").SetEnabled(true);
   ctl("opt2").SetEnabled(true);
   ctl("Label5").SetCaption("");

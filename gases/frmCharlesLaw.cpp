@@ -50,11 +50,7 @@ frmCharlesLaw::frmCharlesLaw(Program& program)
 }
 
 void frmCharlesLaw::Form_Load() {
-  ctl("txtInitialTemperature").SetText("");
-  ctl("txtInitialVolume").SetText("");
-  ctl("txtFinalEntry").SetText("");
-  ctl("txtFinalAnswer").SetText("");
-  ctl("Text1").SetText("");
+  EmptyBoxes({"txtInitialTemperature", "txtInitialVolume", "txtFinalEntry", "txtFinalAnswer", "Text1"});
   ctl("opt1").SetEnabled(true);
   ctl("opt2").SetEnabled(true);
   ctl("Label3").SetCaption("");
@@ -109,11 +105,7 @@ void frmCharlesLaw::cmdOk_Click() {
 }
 
 void frmCharlesLaw::cmdClear_Click() {
-  ctl("txtInitialTemperature").SetText("");
-  ctl("txtInitialVolume").SetText("");
-  ctl("txtFinalEntry").SetText("");
-  ctl("txtFinalAnswer").SetText("");
-  ctl("Text1").SetText("");
+  EmptyBoxes({"txtInitialTemperature", "txtInitialVolume", "txtFinalEntry", "txtFinalAnswer", "Text1"});
   ctl("opt1").SetEnabled(true);
   ctl("opt2").SetEnabled(true);
   ctl("Label3").SetCaption("Enter a final volume.");

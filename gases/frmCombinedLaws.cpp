@@ -109,8 +109,7 @@ void frmCombinedLaws::cmdOk_Click() {
 
 void frmCombinedLaws::cmdClear_Click() {
   for (const char* box : kInputs) ctl(box).SetText("");
-  ctl("Text7").SetText("");
-  ctl("Text6").SetText("");
+  EmptyBoxes({"Text7", "Text6"});
   ctl("Text1").SetFocus();
   ctl("chk1").SetValue(false);
 }

@@ -48,11 +48,7 @@ frmGasDensity::frmGasDensity(Program& program)
 }
 
 void frmGasDensity::Form_Load() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
-  ctl("Text6").SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text4", "Text5", "Text6"});
   DisableOkAndPrint();
 }
 
@@ -83,11 +79,7 @@ void frmGasDensity::cmdOk_Click() {
 }
 
 void frmGasDensity::cmdClear_Click() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
-  ctl("Text6").SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text4", "Text5", "Text6"});
   ctl("Text1").SetFocus();
 }
 

@@ -57,10 +57,7 @@ frmIdeal::frmIdeal(Program& program)
 }
 
 void frmIdeal::Form_Load() {
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
+  EmptyBoxes({"Text2", "Text3", "Text4", "Text5"});
   ctl("opt1").SetEnabled(true);
   ctl("opt2").SetEnabled(true);
   ctl("opt3").SetEnabled(true);
@@ -130,11 +127,7 @@ void frmIdeal::cmdOk_Click() {
 }
 
 void frmIdeal::cmdClear_Click() {
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text5").SetText("");
-  ctl("Text6").SetText("");
+  EmptyBoxes({"Text2", "Text3", "Text4", "Text5", "Text6"});
   ctl("opt1").SetValue(true);
   for (const char* option : {"opt1", "opt2", "opt3", "opt4"}) ctl(option).SetEnabled(true);
 }

@@ -54,11 +54,7 @@ frmMolecularWeight::frmMolecularWeight(Program& program)
 }
 
 void frmMolecularWeight::Form_Load() {
-  ctl("Text6").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text7").SetText("");
+  EmptyBoxes({"Text6", "Text3", "Text2", "Text4", "Text7"});
   DisableOkAndPrint();
 }
 
@@ -89,12 +85,6 @@ void frmMolecularWeight::cmdOk_Click() {
 }
 
 // The answer box keeps the last answer.
-void frmMolecularWeight::cmdClear_Click() {
-  ctl("Text6").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text4").SetText("");
-  ctl("Text7").SetText("");
-}
+void frmMolecularWeight::cmdClear_Click() { EmptyBoxes({"Text6", "Text3", "Text2", "Text4", "Text7"}); }
 
 }  // namespace orv

@@ -119,10 +119,7 @@ void frmDensity::cmdClear_Click() {
   ctl("optDensity1").SetEnabled(true);
   ctl("optDensity2").SetEnabled(true);
   ctl("optDensity3").SetEnabled(true);
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("txtDensity1").SetText("");
-  ctl("txtDensity3").SetText("");
+  EmptyBoxes({"Text1", "Text2", "txtDensity1", "txtDensity3"});
 }
 
 }  // namespace orv

@@ -118,8 +118,7 @@ frmEnglish::frmEnglish(Program& program)
 void frmEnglish::Form_Load() { cmdClear_Click(); }
 
 void frmEnglish::cmdClear_Click() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
+  EmptyBoxes({"Text1", "Text2"});
   ctl("Label3").SetCaption("");
   ctl("Option1").SetValue(true);
 }

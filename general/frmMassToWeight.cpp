@@ -40,8 +40,7 @@ frmMassToWeight::frmMassToWeight(Program& program)
 void frmMassToWeight::Form_Load() { cmdClear_Click(); }
 
 void frmMassToWeight::cmdClear_Click() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
+  EmptyBoxes({"Text1", "Text2"});
   ctl("Label3").SetCaption("");
 }
 

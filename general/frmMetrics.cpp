@@ -223,9 +223,7 @@ void frmMetrics::cmdOk_Click() {
 }
 
 void frmMetrics::cmdClear_Click() {
-  ctl("txtMetric1").SetText("");
-  ctl("txtMetric2").SetText("");
-  ctl("Text1").SetText("");
+  EmptyBoxes({"txtMetric1", "txtMetric2", "Text1"});
   ctl("txtMetric1").SetFocus();
 }
 

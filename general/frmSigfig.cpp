@@ -39,8 +39,7 @@ frmSigfig::frmSigfig(Program& program)
 
 void frmSigfig::Form_Load() {
   HideForm("frmGeneralChoice");
-  ctl("txtSigfig1").SetText("");
-  ctl("txtSigfig2").SetText("");
+  EmptyBoxes({"txtSigfig1", "txtSigfig2"});
   DisableOkAndPrint();
 }
 
@@ -62,8 +61,7 @@ void frmSigfig::cmdOk_Click() {
 }
 
 void frmSigfig::cmdClear_Click() {
-  ctl("txtSigfig1").SetText("");
-  ctl("txtSigfig2").SetText("");
+  EmptyBoxes({"txtSigfig1", "txtSigfig2"});
   ctl("txtSigfig1").SetFocus();
   Module2& m = program().Module<Module2>();
   m.SigNonZeroSeen = false;

@@ -49,9 +49,7 @@ frmTemperatures::frmTemperatures(Program& program)
 
 void frmTemperatures::Form_Load() {
   HideForm("frmGeneralChoice");
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   ctl("cmdPrint").SetEnabled(false);
 }
 
@@ -81,11 +79,7 @@ void frmTemperatures::cmdFToC_Click() {
   });
 }
 
-void frmTemperatures::cmdClear_Click() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-}
+void frmTemperatures::cmdClear_Click() { EmptyBoxes({"Text1", "Text2", "Text3"}); }
 
 void frmTemperatures::cmdCancel_Click() {
   Unload();

@@ -68,8 +68,7 @@ frmTime::frmTime(Program& program)
 
 void frmTime::Form_Load() {
   HideForm("frmGeneralChoice");
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
+  EmptyBoxes({"Text1", "Text2"});
   ctl("Label3").SetCaption("");
 }
 

@@ -53,9 +53,7 @@ void frmVolume::EmptyLabels() {
 }
 
 void frmVolume::Form_Load() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   EmptyLabels();
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
@@ -133,10 +131,7 @@ void frmVolume::cmdOk_Click() {
 // Selecting the sphere runs its routine only when it was not selected
 // already; then the prompts stay empty until another mode is chosen.
 void frmVolume::cmdClear_Click() {
-  ctl("Text1").SetText("");
-  ctl("Text2").SetText("");
-  ctl("Text3").SetText("");
-  ctl("Text4").SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   EmptyLabels();
   ctl("opt1").SetValue(true);
   ctl("Text1").SetFocus();

@@ -105,6 +105,10 @@ void Form::Call(std::string_view control, Ev ev) {
 
 void Form::FireForm(Ev ev, EventArgs& args) { Fire(nullptr, ev, args); }
 
+void Form::EmptyBoxes(std::initializer_list<std::string_view> names) {
+  for (std::string_view name : names) ctl(name).SetText("");
+}
+
 int Form::MsgBox(std::string_view text, Icon icon, std::string_view title) {
   program_->messages().Show(text, icon, title);
   return 1;

@@ -5,6 +5,7 @@
 // constructor.
 
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <span>
@@ -116,6 +117,9 @@ class Form {
       MsgBox(trap.text.empty() ? std::string_view(e.words()) : trap.text, trap.icon, trap.title);
     }
   }
+
+  // Empties the named boxes in turn, each raising its Change as a write does.
+  void EmptyBoxes(std::initializer_list<std::string_view> names);
 
   // Screen services for the routines.
   int MsgBox(std::string_view text, Icon icon, std::string_view title);

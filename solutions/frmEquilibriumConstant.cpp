@@ -81,8 +81,7 @@ void frmEquilibriumConstant::Form_Load() {
       "Enter the coefficients and concentrations for each\r\n"
       "reactant and product from a BALANCED equation.");
   for (const char* box : kInputs) ctl(box).SetText("");
-  ctl("Text1").SetText("");
-  ctl("Text14").SetText("");
+  EmptyBoxes({"Text1", "Text14"});
   DisableOkAndPrint();
 }
 
@@ -132,8 +131,7 @@ void frmEquilibriumConstant::cmdOk_Click() {
 
 void frmEquilibriumConstant::cmdClear_Click() {
   for (const char* box : kInputs) ctl(box).SetText("");
-  ctl("Text1").SetText("");
-  ctl("Text14").SetText("");
+  EmptyBoxes({"Text1", "Text14"});
   ctl("Text2").SetFocus();
 }
 
