@@ -16,6 +16,7 @@
 
 #include "app/registry.h"
 #include "qtui/qt_view.h"
+#include "tests/support/fake_services.h"
 
 namespace {
 
@@ -53,20 +54,6 @@ class QuitAfterPaint : public QObject {
   bool done_ = false;
 };
 
-class NoMessages : public orv::MessageService {
- public:
-  void Show(std::string_view, orv::Icon, std::string_view) override {}
-  void ShowFatal(std::string_view) override {}
-};
-class NoPrinter : public orv::PrintService {
- public:
-  void PrintImage(orv::Form&) override {}
-};
-class NoLauncher : public orv::LaunchService {
- public:
-  void LaunchCalculator() override {}
-};
-
 int Startup(int argc, char** argv, bool bare) {
   g_start = std::chrono::steady_clock::now();
   QApplication app(argc, argv);
@@ -91,10 +78,8 @@ int Startup(int argc, char** argv, bool bare) {
 }
 
 int Sigfig(long presses) {
-  NoMessages messages;
-  NoPrinter printer;
-  NoLauncher launcher;
-  orv::Program program(orv::AllScreens(), {&messages, &printer, &launcher, nullptr}, "/nonexistent");
+  orv::test::FakeServices fakes;
+  orv::Program program(orv::AllScreens(), fakes.services(), "/nonexistent");
   program.Start();
   program.UserAction([&] { program.Show("frmSigfig"); });
   orv::Form* form = program.Find("frmSigfig");

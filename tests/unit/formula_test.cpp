@@ -15,28 +15,15 @@
 #include "shell/program.h"
 #include "shell/rich_text.h"
 #include "shell/text.h"
+#include "tests/support/fake_services.h"
 
 namespace orv {
 namespace {
 
-struct Box {
-  std::string text;
-  Icon icon;
-  std::string title;
-  bool operator==(const Box&) const = default;
-};
-using Boxes = std::vector<Box>;
+using test::Box;
+using test::Boxes;
 
 const Box kNoObject{"Object variable or With block variable not set", Icon::Information, "Orvanta"};
-
-class RecordingMessages : public MessageService {
- public:
-  void Show(std::string_view text, Icon icon, std::string_view title) override {
-    boxes.push_back({std::string(text), icon, std::string(title)});
-  }
-  void ShowFatal(std::string_view) override {}
-  Boxes boxes;
-};
 
 // A bare screen for the scanners' own traps to show their messages on, and
 // the data store open on the real database.
@@ -80,7 +67,7 @@ class FormulaTest : public ::testing::Test {
   }
 
   ScreenRegistry registry;
-  RecordingMessages messages;
+  test::FakeMessages messages;
   Program program{registry, {.messages = &messages}, ORVANTA_BIN_DIR};
   Form form{program, {"frmTest", "Test", 100, 100}, {}};
   data::DataStore store;
@@ -193,7 +180,7 @@ TEST_F(FormulaTest, ElementSymbolsAreReadAgainOnEveryTest) {
 }
 
 TEST(FormulaScreens, WeightsWithoutTheDatabaseWeighNothing) {
-  RecordingMessages messages;
+  test::FakeMessages messages;
   Program program(AllScreens(), {.messages = &messages}, "/nonexistent");
   program.UserAction([&] { program.Show("frmWeights"); });
   ASSERT_NE(program.Find("frmWeights"), nullptr);

@@ -156,7 +156,7 @@ TEST(Help, AMissingFileIsReportedAndTheTextStays) {
   run.program.UserEdit(run.rtb(), "my notes");
   run.tree().tree().SetExpanded("r Orvanta", true);
   UserDblClickNode(run.tree(), "s Introduction");
-  EXPECT_EQ(run.messages.boxes, (std::vector<std::string>{"Orvanta|1|File not found"}));
+  EXPECT_EQ(run.messages.boxes, (test::Boxes{{"File not found", Icon::Information, "Orvanta"}}));
   EXPECT_EQ(run.rtb().Text(), "my notes");
   EXPECT_FALSE(run.program.Ended());
   EXPECT_TRUE(run.help->Visible());

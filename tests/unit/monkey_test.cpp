@@ -10,25 +10,10 @@
 
 #include "app/registry.h"
 #include "shell/program.h"
+#include "tests/support/fake_services.h"
 
 namespace orv {
 namespace {
-
-class QuietMessages : public MessageService {
- public:
-  void Show(std::string_view, Icon, std::string_view) override { ++shown; }
-  void ShowFatal(std::string_view words) override { fatal = std::string(words); }
-  int shown = 0;
-  std::string fatal;
-};
-class Printer : public PrintService {
- public:
-  void PrintImage(Form&) override {}
-};
-class Launcher : public LaunchService {
- public:
-  void LaunchCalculator() override {}
-};
 
 // The keys a student might press, digits most of all.
 const Key kKeys[] = {
@@ -51,11 +36,8 @@ const char* const kPastes[] = {
 // actions taken.
 int RunMonkey(unsigned seed, bool withDatabase, int steps) {
   SCOPED_TRACE("seed " + std::to_string(seed));
-  QuietMessages messages;
-  Printer printer;
-  Launcher launcher;
-  Program program(AllScreens(), {&messages, &printer, &launcher, nullptr},
-                  withDatabase ? ORVANTA_BIN_DIR : "/nonexistent");
+  test::FakeServices fakes;
+  Program program(AllScreens(), fakes.services(), withDatabase ? ORVANTA_BIN_DIR : "/nonexistent");
   program.Start();
   std::mt19937 rng(seed);
   auto pick = [&rng](std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(rng); };
@@ -97,7 +79,7 @@ int RunMonkey(unsigned seed, bool withDatabase, int steps) {
   if (program.Ended()) {
     EXPECT_TRUE(program.LoadedForms().empty());
     if (program.EndedOnError()) {
-      EXPECT_EQ(messages.fatal, program.EndWords());
+      EXPECT_EQ(fakes.messages.fatal, program.EndWords());
     }
   }
   return step;

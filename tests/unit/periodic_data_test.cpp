@@ -48,8 +48,8 @@ TEST(PeriodicData, FillsTheBoxesUntilAFieldFails) {
     Periodic(run.program).SelectedSymbol = c.symbol;
     Form* f = run.Show("frmPeriodicData");
     ASSERT_NE(f, nullptr);
-    EXPECT_EQ(run.messages.boxes, *c.message ? std::vector<std::string>{"Periodic Data|1|" + std::string(c.message)}
-                                             : std::vector<std::string>{});
+    const test::Boxes boxes = *c.message ? test::Boxes{{c.message, Icon::Information, "Periodic Data"}} : test::Boxes{};
+    EXPECT_EQ(run.messages.boxes, boxes);
     std::string shown = f->ctl("Text1").Text();
     for (int i = 2; i <= 14; ++i) shown += "|" + f->ctl("Text" + std::to_string(i)).Text();
     EXPECT_EQ(shown, c.boxes);

@@ -7,35 +7,10 @@
 #include <vector>
 
 #include "shell/screen_frame.h"
+#include "tests/support/fake_services.h"
 
 namespace orv {
 namespace {
-
-class RecordingMessages : public MessageService {
- public:
-  void Show(std::string_view text, Icon, std::string_view title) override {
-    boxes.push_back(std::string(title) + ": " + std::string(text));
-  }
-  void ShowFatal(std::string_view words) override { fatal = std::string(words); }
-  std::vector<std::string> boxes;
-  std::string fatal;
-};
-
-class NullPrinter : public PrintService {
- public:
-  void PrintImage(Form&) override {}
-};
-class NullLauncher : public LaunchService {
- public:
-  void LaunchCalculator() override {}
-};
-
-class MemoryClipboard : public ClipboardService {
- public:
-  std::string Text() const override { return text; }
-  void SetText(std::string_view t) override { text = std::string(t); }
-  std::string text;
-};
 
 constexpr KeyFilter kFilter{".E", "Test"};
 
@@ -90,7 +65,7 @@ const ScreenRegistry& Registry() {
 
 class RuntimeTest : public ::testing::Test {
  protected:
-  RuntimeTest() : program_(Registry(), {&messages_, &printer_, &launcher_, nullptr, &clipboard_}, "/nonexistent") {
+  RuntimeTest() : program_(Registry(), fakes_.services(), "/nonexistent") {
     program_.Start();
     form_ = static_cast<frmTest*>(program_.Find("frmTest"));
   }
@@ -101,10 +76,9 @@ class RuntimeTest : public ::testing::Test {
     program_.UserKey(*form_, &form_->ctl(control), Key{code, ascii, 0});
   }
 
-  RecordingMessages messages_;
-  NullPrinter printer_;
-  NullLauncher launcher_;
-  MemoryClipboard clipboard_;
+  test::FakeServices fakes_;
+  test::FakeMessages& messages_ = fakes_.messages;
+  test::FakeClipboard& clipboard_ = fakes_.clipboard;
   Program program_;
   frmTest* form_ = nullptr;
 };
@@ -118,7 +92,7 @@ TEST_F(RuntimeTest, AKeyGoesToTheScreenThenTheBoxThenTheFilterThenTheText) {
 TEST_F(RuntimeTest, TheFilterRefusesWithItsTitleAndSwallowsTheCharacter) {
   Type("Text1", "1eE.");
   EXPECT_EQ(form_->ctl("Text1").Text(), "1E.");
-  EXPECT_EQ(messages_.boxes, (std::vector<std::string>{"Test: You must enter a valid numerical expression"}));
+  EXPECT_EQ(messages_.boxes, (test::Boxes{{"You must enter a valid numerical expression", Icon::None, "Test"}}));
 }
 
 TEST_F(RuntimeTest, EnterAndEscPressTheEnabledDefaultAndCancelButtonsBeforeTheBoxSeesThem) {
@@ -174,7 +148,7 @@ TEST_F(RuntimeTest, DisabledOrHiddenControlsAndThoseInADisabledFrameTakeNoInput)
 TEST_F(RuntimeTest, ATrapShowsOneBoxAndTheRoutineGoesOnAfterIt) {
   form_->ctl("Text1").SetText("trap");
   program_.UserClick(form_->ctl("cmdOk"));
-  EXPECT_EQ(messages_.boxes, (std::vector<std::string>{"Orvanta: Data entry error"}));
+  EXPECT_EQ(messages_.boxes, (test::Boxes{{"Data entry error", Icon::None, "Orvanta"}}));
   EXPECT_EQ(form_->log.back(), "after trap");
   EXPECT_FALSE(program_.Ended());
 }

@@ -1,5 +1,5 @@
 // A fresh program over a scratch folder, optionally holding a small database,
-// with services that record what the user would have seen.
+// with fake services that record what the user would have seen.
 
 #pragma once
 
@@ -16,6 +16,7 @@
 #include "app/registry.h"
 #include "data/store.h"
 #include "shell/program.h"
+#include "tests/support/fake_services.h"
 
 namespace orv::test {
 
@@ -51,36 +52,12 @@ inline std::string Raised(const std::function<void()>& f) {
   return "nothing raised";
 }
 
-// Boxes as "title|icon number|text".
-class RecordedMessages : public MessageService {
- public:
-  void Show(std::string_view text, Icon icon, std::string_view title) override {
-    boxes.push_back(std::string(title) + "|" + std::to_string(static_cast<int>(icon)) + "|" + std::string(text));
-  }
-  void ShowFatal(std::string_view words) override { fatal = std::string(words); }
-  std::vector<std::string> boxes;
-  std::string fatal;
-};
-class RecordedPrinter : public PrintService {
- public:
-  void PrintImage(Form& form) override {
-    if (!available) Raise(ErrorCode::PrinterError);
-    printed.push_back(form.name());
-  }
-  bool available = true;
-  std::vector<std::string> printed;
-};
-class NoLauncher : public LaunchService {
- public:
-  void LaunchCalculator() override {}
-};
-
 // Started on a database made of `sql` (none when empty) in a scratch folder,
 // or on `folder` when one is given. The start-up's boxes are counted, then
 // cleared.
 struct ScreenRun {
   explicit ScreenRun(const std::string& sql, const std::string& folder = "")
-      : program(AllScreens(), {&messages, &printer, &launcher, nullptr}, folder.empty() ? dir.path.string() : folder) {
+      : program(AllScreens(), fakes.services(), folder.empty() ? dir.path.string() : folder) {
     if (!sql.empty()) MakeDatabase(dir.path, sql);
     program.Start();
     startupBoxes = messages.boxes.size();
@@ -92,9 +69,9 @@ struct ScreenRun {
   }
 
   ScratchDir dir;
-  RecordedMessages messages;
-  RecordedPrinter printer;
-  NoLauncher launcher;
+  FakeServices fakes;
+  FakeMessages& messages = fakes.messages;
+  FakePrinter& printer = fakes.printer;
   Program program;
   std::size_t startupBoxes = 0;
 };
