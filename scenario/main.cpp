@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "scenario/qt_driver.h"
 #include "scenario/runner.h"
 
 namespace {
@@ -23,11 +24,12 @@ void QuietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 
 int main(int argc, char** argv) {
   orv::scenario::Options options;
+  bool qt = false;
   std::vector<std::string> files;
   for (int i = 1; i < argc; ++i) {
     const std::string a = argv[i];
     if (a == "--qt") {
-      options.qt = true;
+      qt = true;
     } else {
       files.push_back(a);
     }
@@ -40,7 +42,8 @@ int main(int argc, char** argv) {
   options.exeDir = std::filesystem::canonical("/proc/self/exe").parent_path().string();
 
   std::unique_ptr<QApplication> app;
-  if (options.qt) {
+  if (qt) {
+    options.makeDriver = orv::scenario::MakeQtDriver;
     if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr &&
         std::getenv("QT_QPA_PLATFORM") == nullptr) {
       setenv("QT_QPA_PLATFORM", "offscreen", 1);

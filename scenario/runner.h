@@ -3,13 +3,19 @@
 // either straight through the runtime (headless) or through the real Qt
 // widgets, with the same steps and the same expectations.
 
+#include <functional>
+#include <iosfwd>
+#include <memory>
 #include <string>
-#include <vector>
+
+#include "scenario/driver.h"
 
 namespace orv::scenario {
 
 struct Options {
-  bool qt = false;
+  // Makes the driver of each run, over the fakes that record what the user
+  // meets; headless unless told otherwise.
+  std::function<std::unique_ptr<Driver>(test::FakeServices&)> makeDriver = MakeHeadlessDriver;
   std::string exeDir;  // where the database and help files lie
 };
 
@@ -20,5 +26,7 @@ struct Result {
 };
 
 Result RunFile(const std::string& path, const Options& options);
+// The same for a scenario's text.
+Result RunScenario(std::istream& in, const Options& options);
 
 }  // namespace orv::scenario
