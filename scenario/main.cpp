@@ -1,9 +1,7 @@
 // orvanta-scenario [--qt] FILE...: runs each scenario file as one fresh run of
 // the program, headless or through the real Qt widgets, and reports each.
 
-#include <QApplication>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -11,16 +9,6 @@
 
 #include "scenario/qt_driver.h"
 #include "scenario/runner.h"
-
-namespace {
-// The offscreen platform cannot raise windows or resize them for real, and
-// says so on every screen shown; those lines are no news to a test run.
-void QuietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
-  if (message.startsWith(QLatin1String("This plugin does not support"))) return;
-  if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) return;
-  qt_message_output(type, context, message);
-}
-}  // namespace
 
 int main(int argc, char** argv) {
   orv::scenario::Options options;
@@ -41,16 +29,10 @@ int main(int argc, char** argv) {
   // The program finds its database and help files beside itself.
   options.exeDir = std::filesystem::canonical("/proc/self/exe").parent_path().string();
 
-  std::unique_ptr<QApplication> app;
+  std::unique_ptr<orv::scenario::QtSession> session;
   if (qt) {
+    session = std::make_unique<orv::scenario::QtSession>(argc, argv);
     options.makeDriver = orv::scenario::MakeQtDriver;
-    if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr &&
-        std::getenv("QT_QPA_PLATFORM") == nullptr) {
-      setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    }
-    qInstallMessageHandler(QuietHandler);
-    app = std::make_unique<QApplication>(argc, argv);
-    QApplication::setQuitOnLastWindowClosed(false);
   }
 
   int passed = 0;

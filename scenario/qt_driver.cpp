@@ -14,6 +14,7 @@
 #include <QTimer>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
+#include <cstdlib>
 
 #include "qtui/chart_widget.h"
 #include "qtui/picture_widget.h"
@@ -318,7 +319,27 @@ ShownNodes QtDriver::Nodes(Control& c) {
   return nodes;
 }
 
+// The offscreen platform cannot raise windows or resize them for real, and
+// says so on every screen shown; those lines are no news to a test run.
+void QuietHandler(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (message.startsWith(QLatin1String("This plugin does not support"))) return;
+  if (message.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR not set"))) return;
+  qt_message_output(type, context, message);
+}
+
 }  // namespace
+
+QtSession::QtSession(int& argc, char** argv) {
+  if (std::getenv("DISPLAY") == nullptr && std::getenv("WAYLAND_DISPLAY") == nullptr &&
+      std::getenv("QT_QPA_PLATFORM") == nullptr) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+  }
+  qInstallMessageHandler(QuietHandler);
+  app_ = std::make_unique<QApplication>(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+QtSession::~QtSession() = default;
 
 std::unique_ptr<Driver> MakeQtDriver(test::FakeServices& fakes) { return std::make_unique<QtDriver>(fakes); }
 
