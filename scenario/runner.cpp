@@ -119,6 +119,8 @@ std::vector<Key> ParseKeys(const std::string& text) {
       {"Shift+Tab", {kKeyTab, 0, kShiftMask}},
       {"Left", {kKeyLeft, 0, 0}},
       {"Right", {kKeyRight, 0, 0}},
+      {"Up", {kKeyUp, 0, 0}},
+      {"Down", {kKeyDown, 0, 0}},
       {"Home", {kKeyHome, 0, 0}},
       {"End", {kKeyEnd, 0, 0}},
 
@@ -483,6 +485,8 @@ void Run::Type(Control& c, const std::string& text) {
       case kKeyTab: QTest::keyClick(target, (k.shift & kShiftMask) ? Qt::Key_Backtab : Qt::Key_Tab, mods); break;
       case kKeyLeft: QTest::keyClick(target, Qt::Key_Left, mods); break;
       case kKeyRight: QTest::keyClick(target, Qt::Key_Right, mods); break;
+      case kKeyUp: QTest::keyClick(target, Qt::Key_Up, mods); break;
+      case kKeyDown: QTest::keyClick(target, Qt::Key_Down, mods); break;
       case kKeyHome: QTest::keyClick(target, Qt::Key_Home, mods); break;
       case kKeyEnd: QTest::keyClick(target, Qt::Key_End, mods); break;
       default: {
