@@ -24,7 +24,9 @@
 #include <QStandardPaths>
 #include <QVBoxLayout>
 
+#include "qtui/accessibility.h"
 #include "qtui/chart_widget.h"
+#include "qtui/focus_frame.h"
 #include "qtui/picture_widget.h"
 #include "qtui/qt_keys.h"
 #include "qtui/rich_text_widget.h"
@@ -360,6 +362,8 @@ void QtView::FormLoaded(Form& form) {
   FormWidgets& fw = forms_[&form];
   fw.window = Build(form, fw);
   for (const auto& c : form.controls()) Sync(*c);
+  MakeAccessible(fw.window, form, [this](const Control& c) { return Widget(c); });
+  ShowKeyboardFocus(fw.window);
   // Centre each screen; later screens step a little down and right so that
   // the one behind stays in sight.
   fw.window->adjustSize();

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 
+#include "shell/arrow_keys.h"
 #include "shell/key_filter.h"
 #include "shell/text.h"
+#include "shell/tree.h"
 
 namespace orv {
 
@@ -312,6 +314,13 @@ bool Program::UserKey(Form& form, Control* focus, const Key& key) {
         return;
       }
     }
+    // With no enabled default button to take it, Enter presses the command
+    // button in focus, as the space bar does.
+    const bool onButton = focus != nullptr && focus->kind() == Kind::Button;
+    if (key.code == kKeyReturn && onButton && key.shift == 0) {
+      form.Fire(focus, Ev::Click);
+      return;
+    }
     if (key.code == kKeyTab) {
       MoveFocus(form, focus, (key.shift & kShiftMask) != 0);
       return;
@@ -321,6 +330,11 @@ bool Program::UserKey(Form& form, Control* focus, const Key& key) {
       form.Fire(focus, Ev::KeyDown, down);
       if (!form.Loaded() || !form.Visible()) return;
       if (!focus->TakesInput()) focus = nullptr;
+    }
+    // The arrow keys move from a command button to the nearest one that way.
+    if (onButton && focus != nullptr && IsArrowKey(key.code) && key.shift == 0) {
+      if (Control* next = ButtonToward(*focus, key.code)) next->SetFocus();
+      return;
     }
 
     const bool box = focus != nullptr && (focus->kind() == Kind::TextBox || focus->kind() == Kind::RichText);
@@ -342,6 +356,12 @@ bool Program::UserKey(Form& form, Control* focus, const Key& key) {
       EditBox(*focus, key);
     }
     if (!box) taken = false;  // the toolkit moves in lists, presses buttons
+    // Enter on a tree's selected node opens it as a double click does.
+    if (key.code == kKeyReturn && focus != nullptr && focus->kind() == Kind::Tree && form.Loaded() &&
+        focus->TakesInput() && focus->tree().SelectedItem() != nullptr) {
+      form.Fire(focus, Ev::DblClick);
+      taken = true;
+    }
     if (focus != nullptr && form.Loaded() && focus->TakesInput()) {
       EventArgs up;
       up.keyCode = key.code;

@@ -1,0 +1,207 @@
+// Every registered screen as assistive technology sees it through Qt: each
+// control a user works with has a name, option buttons are radio buttons,
+// text entries are named or labelled, and each window is a named window.
+// Also the focus ring: a keyboard user sees which button has the focus.
+
+#include <gtest/gtest.h>
+
+#include <QAccessible>
+#include <QApplication>
+#include <QImage>
+#include <QMessageBox>
+#include <QRadioButton>
+#include <QTimer>
+#include <string>
+#include <vector>
+
+#include "app/registry.h"
+#include "qtui/qt_view.h"
+#include "shell/accessible.h"
+#include "shell/chart.h"
+
+namespace orv::qt {
+namespace {
+
+// The program through the real widgets; message boxes close by themselves.
+struct QtRun {
+  QtRun() {
+    orvanta.messages.hook = [](QMessageBox& box) {
+      QTimer::singleShot(0, &box, [&box] { box.done(QMessageBox::Ok); });
+    };
+    orvanta.view.onEnded = [] {};
+    orvanta.program.Start();
+    QCoreApplication::processEvents();
+  }
+  ~QtRun() {
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+  }
+  Form* Show(const std::string& name) {
+    orvanta.program.UserAction([&] { orvanta.program.Show(name); });
+    QCoreApplication::processEvents();
+    return orvanta.program.Find(name);
+  }
+  void Unload(const std::string& name) {
+    orvanta.program.UserAction([&] { orvanta.program.Unload(name); });
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  QtProgram orvanta{AllScreens()};
+};
+
+bool NeedsName(QAccessible::Role role) {
+  switch (role) {
+    case QAccessible::PushButton:
+    case QAccessible::EditableText:
+    case QAccessible::RadioButton:
+    case QAccessible::CheckBox:
+    case QAccessible::List:
+    case QAccessible::ListItem:
+    case QAccessible::Tree:
+    case QAccessible::TreeItem:
+    case QAccessible::MenuItem: return true;
+    default: return false;
+  }
+}
+
+struct Findings {
+  int controls = 0;
+  int options = 0;
+  std::vector<std::string> problems;
+};
+
+// Walks what a screen reader walks, from the window down.
+void Walk(QAccessibleInterface* node, const std::string& where, Findings& out) {
+  if (node == nullptr || !node->isValid()) return;
+  const QAccessible::Role role = node->role();
+  const QAccessible::State state = node->state();
+  const std::string name = node->text(QAccessible::Name).trimmed().toStdString();
+  QWidget* widget = qobject_cast<QWidget*>(node->object());
+  const std::string what = where + " " + (widget != nullptr ? widget->objectName().toStdString() : std::string("?"));
+  if (widget != nullptr && qobject_cast<QRadioButton*>(widget) != nullptr) {
+    ++out.options;
+    if (role != QAccessible::RadioButton) out.problems.push_back(what + ": an option button with another role");
+  }
+  if (NeedsName(role) && !state.invisible) {
+    ++out.controls;
+    if (name.empty()) out.problems.push_back(what + ": no name (role " + std::to_string(role) + ")");
+    if (role == QAccessible::EditableText && name.empty() && node->relations(QAccessible::Label).isEmpty()) {
+      out.problems.push_back(what + ": an entry neither named nor labelled");
+    }
+  }
+  for (int i = 0; i < node->childCount(); ++i) Walk(node->child(i), where, out);
+}
+
+TEST(QtAccessibility, EveryScreenIsNamedAndHasTheRightRoles) {
+  QtRun run;
+  Findings all;
+  int screens = 0;
+  std::vector<std::string> names;
+  for (const auto& [name, factory] : AllScreens().screens) names.push_back(name);
+  for (const std::string& name : names) {
+    Form* form = run.Show(name);
+    ASSERT_NE(form, nullptr) << name;
+    QWidget* window = run.orvanta.view.Window(*form);
+    ASSERT_NE(window, nullptr) << name;
+    QAccessibleInterface* top = QAccessible::queryAccessibleInterface(window);
+    ASSERT_NE(top, nullptr) << name;
+    const QAccessible::Role role = top->role();
+    EXPECT_TRUE(role == QAccessible::Window || role == QAccessible::Dialog) << name << " has role " << role;
+    EXPECT_FALSE(top->text(QAccessible::Name).trimmed().isEmpty()) << name << " has no name";
+    Walk(top, name, all);
+    ++screens;
+    if (name != "frmMain") run.Unload(name);
+  }
+  for (const std::string& p : all.problems) ADD_FAILURE() << p;
+  EXPECT_GT(screens, 60);
+  EXPECT_GT(all.controls, 700);
+  EXPECT_GT(all.options, 60);
+}
+
+TEST(QtAccessibility, BoxesAreLabelledByTheirPromptsAndFollowThem) {
+  QtRun run;
+  Form* form = run.Show("frmCharlesLaw");
+  ASSERT_NE(form, nullptr);
+  QAccessibleInterface* box =
+      QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(form->ctl("txtFinalEntry")));
+  ASSERT_NE(box, nullptr);
+  const auto labels = box->relations(QAccessible::Label);
+  ASSERT_EQ(labels.size(), 1);
+  EXPECT_EQ(labels.first().first->object(), run.orvanta.view.Widget(form->ctl("Label3")));
+  // The second option rewrites the prompt; the name follows it.
+  run.orvanta.program.UserClick(form->ctl("opt2"));
+  EXPECT_EQ(box->text(QAccessible::Name).toStdString(), form->ctl("Label3").Caption());
+  // The working line has no label of its own.
+  QAccessibleInterface* line = QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(form->ctl("Text1")));
+  EXPECT_EQ(line->text(QAccessible::Name).toStdString(), "Calculation");
+  QAccessibleInterface* option = QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(form->ctl("opt2")));
+  EXPECT_EQ(option->role(), QAccessible::RadioButton);
+  EXPECT_EQ(option->text(QAccessible::Name).toStdString(), "Find final volume");
+  EXPECT_TRUE(option->state().checked);
+}
+
+TEST(QtAccessibility, PicturesAndChartsSayWhatTheyShow) {
+  QtRun run;
+  Form* atoms = run.Show("frmBuildAtoms");
+  ASSERT_NE(atoms, nullptr);
+  run.orvanta.program.UserClick(atoms->ctl("cmdProton"));
+  QAccessibleInterface* picture =
+      QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(atoms->ctl("Picture1")));
+  ASSERT_NE(picture, nullptr);
+  EXPECT_EQ(picture->role(), QAccessible::Graphic);
+  EXPECT_EQ(picture->text(QAccessible::Name).toStdString(), "Atom");
+  EXPECT_EQ(picture->text(QAccessible::Description).toStdString(), AccessibleDescription(atoms->ctl("Picture1")));
+  EXPECT_NE(picture->text(QAccessible::Description).indexOf("Protons 1"), -1);
+
+  Form* chart = run.Show("frmPTable2");
+  ASSERT_NE(chart, nullptr);
+  QAccessibleInterface* graph = QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(chart->ctl("MSChart1")));
+  ASSERT_NE(graph, nullptr);
+  EXPECT_EQ(graph->role(), QAccessible::Chart);
+  EXPECT_FALSE(chart->ctl("MSChart1").chart().content().title.empty());
+  EXPECT_EQ(graph->text(QAccessible::Name).toStdString(), chart->ctl("MSChart1").chart().content().title);
+
+  Form* periodic = run.Show("frmPeriodic");
+  ASSERT_NE(periodic, nullptr);
+  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(run.orvanta.view.Window(*periodic));
+  EXPECT_EQ(window->text(QAccessible::Name).toStdString(), "Orvanta");
+}
+
+// The focus ring: the window's image changes when the focus moves from one
+// button to its neighbour, and the ring is drawn in the highlight colour just
+// outside the focused button.
+TEST(QtAccessibility, TheFocusedButtonIsMarked) {
+  QtRun run;
+  Form* form = run.Show("frmCharlesLaw");
+  ASSERT_NE(form, nullptr);
+  QWidget* window = run.orvanta.view.Window(*form);
+  window->activateWindow();
+  QApplication::setActiveWindow(window);
+  auto grabWithFocus = [&](const char* name) {
+    run.orvanta.program.UserFocus(form->ctl(name));
+    QCoreApplication::processEvents();
+    return GrabForm(run.orvanta.view, *form);
+  };
+  const QImage onClear = grabWithFocus("cmdClear");
+  const QImage onCancel = grabWithFocus("cmdCancel");
+  ASSERT_FALSE(onClear.isNull());
+  EXPECT_NE(onClear, onCancel);
+  QWidget* cancel = run.orvanta.view.Widget(form->ctl("cmdCancel"));
+  const QPoint corner = cancel->mapTo(window, QPoint(0, cancel->height() / 2)) - QPoint(1, 0);
+  const qreal ratio = onCancel.devicePixelRatio();
+  const QColor ring = onCancel.pixelColor((QPointF(corner) * ratio).toPoint());
+  EXPECT_EQ(ring, cancel->palette().color(QPalette::Active, QPalette::Highlight));
+  EXPECT_NE(onClear.pixelColor((QPointF(corner) * ratio).toPoint()), ring);
+}
+
+}  // namespace
+}  // namespace orv::qt
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  QApplication app(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  ::testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}
