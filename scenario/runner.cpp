@@ -26,6 +26,7 @@
 #include "app/registry.h"
 #include "qtui/chart_widget.h"
 #include "qtui/picture_widget.h"
+#include "qtui/qt_services.h"
 #include "qtui/qt_view.h"
 #include "qtui/rich_text_widget.h"
 #include "qtui/tree_widget.h"
