@@ -3,7 +3,7 @@
 #include <QApplication>
 
 #include "app/registry.h"
-#include "qtui/qt_view.h"
+#include "qtui/qt_program.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);

@@ -15,7 +15,7 @@
 #include <string>
 
 #include "app/registry.h"
-#include "qtui/qt_view.h"
+#include "qtui/qt_program.h"
 #include "tests/support/fake_services.h"
 
 namespace {

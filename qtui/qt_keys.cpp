@@ -1,5 +1,7 @@
 #include "qtui/qt_keys.h"
 
+#include <QKeyEvent>
+
 namespace orv::qt {
 
 namespace {
@@ -31,6 +33,25 @@ std::optional<Key> NamedKeyOfQt(int qtKey) {
     if (n.qt == qtKey) return KeyNamed(n.name);
   }
   return std::nullopt;
+}
+
+Key ToKey(const QKeyEvent& e) {
+  Key k;
+  const int q = e.key();
+  if (const std::optional<Key> named = NamedKeyOfQt(q)) {
+    k = *named;
+  } else if (q >= Qt::Key_F1 && q <= Qt::Key_F24) {
+    k.code = kKeyF1 + (q - Qt::Key_F1);
+  } else {
+    const QString text = e.text();
+    if (!text.isEmpty() && text.at(0).unicode() != 127) k.ascii = text.at(0).unicode();
+    k.code = (q >= Qt::Key_A && q <= Qt::Key_Z) ? q : KeyCodeOfChar(k.ascii);
+  }
+  const Qt::KeyboardModifiers m = e.modifiers();
+  if (m & Qt::ShiftModifier) k.shift |= kShiftMask;
+  if (m & Qt::ControlModifier) k.shift |= kCtrlMask;
+  if (m & Qt::AltModifier) k.shift |= kAltMask;
+  return k;
 }
 
 }  // namespace orv::qt

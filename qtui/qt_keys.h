@@ -7,6 +7,9 @@
 #include <string_view>
 
 #include "shell/keys.h"
+#include "shell/program.h"
+
+class QKeyEvent;
 
 namespace orv::qt {
 
@@ -16,5 +19,9 @@ Qt::Key QtKeyOf(std::string_view name);
 // The runtime's key for a Qt key that has a name; Return and the keypad's
 // Enter are both Enter.
 std::optional<Key> NamedKeyOfQt(int qtKey);
+
+// The runtime's key code of a key the user pressed in a Qt widget, its Shift,
+// Ctrl and Alt, and the character it produces.
+Key ToKey(const QKeyEvent& e);
 
 }  // namespace orv::qt

@@ -2,7 +2,10 @@
 // The one Qt layer for every screen: builds a window from a screen's control
 // table, mirrors every change of the model into the widgets, and feeds the
 // user's real keys and clicks into the runtime. It decides nothing itself.
+// What is particular to a kind of control lives in its adapter
+// (qtui/control_adapter.h); this is what all kinds share.
 
+#include <QImage>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
@@ -10,8 +13,6 @@
 #include <map>
 
 #include "shell/program.h"
-
-class QMessageBox;
 
 namespace orv::qt {
 
@@ -25,10 +26,11 @@ class QtView : public QObject, public View {
   void SetProgram(Program* program) { program_ = program; }
   Program* program() const { return program_; }
 
-  // The window of a loaded screen, and a control's widget.
+  // The window of a loaded screen, and a control's widget (none for a menu
+  // entry, which is an action of its window).
   QWidget* Window(const Form& form) const;
   QWidget* Widget(const Control& control) const;
-  // The control a widget shows, if any.
+  // The control a widget or action shows, if any.
   Control* ControlOf(const QObject* widget) const;
   Form* FormOf(const QObject* window) const;
 
@@ -45,12 +47,18 @@ class QtView : public QObject, public View {
   void ControlChanged(Control& control, Prop what) override;
   void FocusChanged(Form& form, Control* control) override;
 
-  // Input from the widgets.
+  // Input from the widgets. None reaches the runtime while the view itself
+  // is changing a widget.
   void Clicked(Control& control);
   void DoubleClicked(Control& control);
   void Edited(Control& control, const QString& text);
   void RowSelected(Control& control, int row);
+  void CaretMoved(Control& control, int start, int length);
   void CloseRequested(Form& form);
+  // Runs one piece of input a widget carries out itself through the runtime.
+  void RunInput(const std::function<void()>& input);
+  // Whether the view is mirroring the model into a widget just now.
+  bool Syncing() const { return syncing_; }
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -58,63 +66,17 @@ class QtView : public QObject, public View {
  private:
   struct FormWidgets {
     QPointer<QWidget> window;
-    std::map<const Control*, QPointer<QWidget>> widgets;
+    // The widget, or the menu entry's action, that shows each control.
+    std::map<const Control*, QPointer<QObject>> shown;
   };
-  void Sync(Control& control);
+  QObject* Shown(const Control& control) const;
   void AfterInput();
   QWidget* Build(Form& form, FormWidgets& fw);
+  bool KeyPressed(QObject* watched, QKeyEvent& key);
 
   Program* program_ = nullptr;
   std::map<const Form*, FormWidgets> forms_;
   bool syncing_ = false;
-};
-
-// Message boxes with QMessageBox and the four icons. A hook, when set, sees
-// each box just before it runs (the scenario runner reads and dismisses it).
-class QtMessages : public MessageService {
- public:
-  void Show(std::string_view text, Icon icon, std::string_view title) override;
-  void ShowFatal(std::string_view words) override;
-  void Beep() override;
-  std::function<void(QMessageBox&)> hook;
-};
-
-// The screen's image on the default printer, no dialog.
-class QtPrinter : public PrintService {
- public:
-  explicit QtPrinter(QtView& view) : view_(view) {}
-  void PrintImage(Form& form) override;
-
- private:
-  QtView& view_;
-};
-
-// The first desktop calculator found on the PATH, started detached.
-class QtLauncher : public LaunchService {
- public:
-  void LaunchCalculator() override;
-};
-
-// The desktop's clipboard.
-class QtClipboard : public ClipboardService {
- public:
-  std::string Text() const override;
-  void SetText(std::string_view text) override;
-};
-
-// The program with the Qt front end and the platform's services, finding its
-// data beside the executable.
-struct QtProgram {
-  explicit QtProgram(const ScreenRegistry& registry);
-  // Runs the start-up routine, then the event loop; the program's exit code.
-  int Run();
-
-  QtView view;
-  QtMessages messages;
-  QtPrinter printer{view};
-  QtLauncher launcher;
-  QtClipboard clipboard;
-  Program program;
 };
 
 // A window's image as it stands, for printing and for tests.

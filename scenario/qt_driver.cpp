@@ -19,6 +19,7 @@
 #include "qtui/chart_widget.h"
 #include "qtui/picture_widget.h"
 #include "qtui/qt_keys.h"
+#include "qtui/qt_services.h"
 #include "qtui/qt_view.h"
 #include "qtui/rich_text_widget.h"
 #include "qtui/tree_widget.h"

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "app/registry.h"
+#include "qtui/qt_program.h"
 #include "qtui/qt_view.h"
 #include "shell/accessible.h"
 #include "shell/chart.h"
@@ -195,13 +196,3 @@ TEST(QtAccessibility, TheFocusedButtonIsMarked) {
 
 }  // namespace
 }  // namespace orv::qt
-
-int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-  }
-  QApplication app(argc, argv);
-  QApplication::setQuitOnLastWindowClosed(false);
-  ::testing::InitGoogleTest(&argc, argv);
-  return RUN_ALL_TESTS();
-}
