@@ -9,6 +9,7 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTest>
 #include <QTextEdit>
@@ -420,11 +421,16 @@ void Run::FocusForTyping(Control& c) {
     P().UserFocus(c);
     return;
   }
+  // As a user does: the window is activated only when it isn't active; a box
+  // is focused by a click into it, a list by the keyboard (a click on a list
+  // would choose a row).
   QWidget* w = W(c);
   QWidget* window = w->window();
-  window->activateWindow();
-  QApplication::setActiveWindow(window);
-  w->setFocus(Qt::MouseFocusReason);
+  if (QApplication::activeWindow() != window) {
+    window->activateWindow();
+    QApplication::setActiveWindow(window);
+  }
+  w->setFocus(c.kind() == Kind::ListBox ? Qt::TabFocusReason : Qt::MouseFocusReason);
   Settle();
   if (c.form().Loaded() && !c.HasFocus() && c.TakesInput()) P().UserFocus(c);
 }
@@ -542,6 +548,7 @@ std::string Run::ShownText(Control& c) {
   QWidget* w = W(c);
   if (auto* e = qobject_cast<QLineEdit*>(w)) return e->text().toStdString();
   if (auto* r = qobject_cast<QTextEdit*>(w)) return r->toPlainText().toStdString();
+  if (auto* m = qobject_cast<QPlainTextEdit*>(w)) return m->toPlainText().toStdString();
   if (auto* l = qobject_cast<QLabel*>(w)) return l->text().toStdString();
   if (auto* b = qobject_cast<QAbstractButton*>(w)) return b->text().toStdString();
   if (auto* g = qobject_cast<QGroupBox*>(w)) return g->title().toStdString();
@@ -557,6 +564,13 @@ bool Run::ShownVisible(Control& c) {
 }
 
 bool Run::ShownChecked(Control& c) {
+  // A list box counts as selected while a row is chosen, or through Qt while
+  // a row stands highlighted as the current one.
+  if (c.kind() == Kind::ListBox) {
+    if (!options_.qt) return c.ListIndex() != -1;
+    auto* list = qobject_cast<QListWidget*>(W(c));
+    return list != nullptr && (list->currentRow() != -1 || !list->selectedItems().isEmpty());
+  }
   if (!options_.qt) return c.Value();
   auto* b = qobject_cast<QAbstractButton*>(W(c));
   if (b == nullptr) Fail(c.key() + " has no check state");
