@@ -61,6 +61,48 @@ QString TickText(double v, const ValueScale& s) {
   return QString::number(v, 'f', s.decimals);
 }
 
+// The face of the category labels: the tick face side by side when each
+// label fits its slot, otherwise upright, shrunk until the digits' height fits
+// the slot with a pixel to spare (never below a face of 6 pixels).
+struct CategoryFace {
+  QFont font;
+  bool upright = false;
+  double depth = 0;            // room the labels take below the axis
+  double thickness = 0;        // an upright label's extent across its slot
+  double descentBelowInk = 0;  // from the baseline up to the digits' foot
+};
+
+CategoryFace FaceFor(const std::vector<ChartPoint>& points, double slot, const QFont& tickFont) {
+  auto widest = [&](const QFont& f) {
+    const QFontMetricsF fm(f);
+    double w = 0;
+    for (const ChartPoint& pt : points)
+      w = std::max(w, fm.horizontalAdvance(QString::fromStdString(pt.label).trimmed()));
+    return w;
+  };
+  CategoryFace face;
+  face.font = tickFont;
+  if (widest(tickFont) + 4 <= slot) {
+    face.depth = QFontMetricsF(tickFont).height();
+    return face;
+  }
+  face.upright = true;
+  QFont f = tickFont;
+  double px = QFontInfo(tickFont).pixelSize();
+  for (;; px -= 0.5) {
+    f.setPixelSize(static_cast<int>(std::lround(px)));
+    const QRectF ink = QFontMetricsF(f).tightBoundingRect(QStringLiteral("0123456789"));
+    if (ink.height() + 1 <= slot || px <= 6) {
+      face.thickness = ink.height();
+      face.descentBelowInk = ink.bottom();  // at or just below the baseline
+      break;
+    }
+  }
+  face.font = f;
+  face.depth = widest(f);
+  return face;
+}
+
 }  // namespace
 
 ChartWidget::ChartWidget(QWidget* parent) : QWidget(parent) { setAttribute(Qt::WA_OpaquePaintEvent); }
@@ -133,17 +175,17 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
   // The plot area leaves room for the value axis title and tick labels on
   // the left, the category tick labels and title below.
   const double tick = 4;
+  const std::size_t n = points.size();
   QRectF plot = area;
   plot.setLeft(area.left() + (content_.valueTitle.empty() ? 0 : axisFm.height() + 8) + tickWidth + tick + 6);
   plot.setRight(area.right() - 8);
+  const double slot = n > 0 ? plot.width() / static_cast<double>(n) : plot.width();
+  const CategoryFace face = FaceFor(points, slot, tickFont);
   plot.setTop(area.top() + tickFm.height() / 2);
-  plot.setBottom(area.bottom() - (content_.categoryTitle.empty() ? 0 : axisFm.height() + 4) - tickFm.height() - tick -
-                 6);
+  plot.setBottom(area.bottom() - (content_.categoryTitle.empty() ? 0 : axisFm.height() + 4) - face.depth - tick - 6);
   if (plot.width() < 10 || plot.height() < 10) return;
 
   auto yOf = [&](double v) { return plot.bottom() - (v - scale.lo) / (scale.hi - scale.lo) * plot.height(); };
-  const std::size_t n = points.size();
-  const double slot = n > 0 ? plot.width() / static_cast<double>(n) : plot.width();
   // With labels at the ticks a category's tick and its value stand at the
   // middle of its slot.
   auto xOf = [&](std::size_t i) { return plot.left() + (static_cast<double>(i) + 0.5) * slot; };
@@ -168,34 +210,40 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
   p.drawLine(plot.bottomLeft(), plot.topLeft());
   p.drawLine(plot.bottomLeft(), plot.bottomRight());
 
-  // Category ticks, and labels as often as they fit side by side.
-  double labelWidth = 0;
-  for (const ChartPoint& pt : points) {
-    labelWidth = std::max(labelWidth, tickFm.horizontalAdvance(QString::fromStdString(pt.label).trimmed()));
-  }
-  std::size_t every = 1;
-  for (std::size_t m : {1, 2, 5, 10, 20, 50, 100, 200, 500, 1000}) {
-    every = m;
-    if (slot * static_cast<double>(m) >= labelWidth + 8) break;
-  }
+  // Category ticks, and a label at every one: side by side where they fit,
+  // otherwise turned upright in a face small enough for one slot each.
   const double tickUp =
       content_.categoryTicks == TickStyle::Centre || content_.categoryTicks == TickStyle::Inside ? tick : 0;
   const double tickDown =
       content_.categoryTicks == TickStyle::Centre || content_.categoryTicks == TickStyle::Outside ? tick : 0;
+  labels_.clear();
+  const QFontMetricsF faceFm(face.font);
+  p.setFont(face.font);
   for (std::size_t i = 0; i < n; ++i) {
     const double x = content_.labelAtTick ? xOf(i) : plot.left() + static_cast<double>(i) * slot;
-    const bool labelled = (i + 1) % every == 0;
     if (content_.categoryTicks != TickStyle::None) {
       p.setPen(QPen(kAxis, 1));
-      const double longer = labelled && every > 1 ? 2 : 0;
-      p.drawLine(QPointF(x, plot.bottom() - tickUp), QPointF(x, plot.bottom() + tickDown + longer));
+      p.drawLine(QPointF(x, plot.bottom() - tickUp), QPointF(x, plot.bottom() + tickDown));
     }
-    if (labelled) {
-      p.setPen(kInk);
-      const QRectF box(xOf(i) - slot * static_cast<double>(every) / 2 - 20, plot.bottom() + tick + 4,
-                       slot * static_cast<double>(every) + 40, tickFm.height());
-      p.drawText(box, Qt::AlignHCenter | Qt::AlignTop, QString::fromStdString(points[i].label).trimmed());
+    const QString text = QString::fromStdString(points[i].label).trimmed();
+    const double length = faceFm.horizontalAdvance(text);
+    const double top = plot.bottom() + tick + 4;
+    p.setPen(kInk);
+    if (!face.upright) {
+      const QRectF box(xOf(i) - length / 2, top, length, faceFm.height());
+      p.drawText(box, Qt::AlignHCenter | Qt::AlignTop, text);
+      labels_.push_back({text, box, false, face.font});
+      continue;
     }
+    // Read from the bottom up, ending at the axis; the digits' height is what
+    // stands across the slot.
+    const QRectF box(xOf(i) - face.thickness / 2, top, face.thickness, length);
+    p.save();
+    p.translate(xOf(i) + face.thickness / 2, top + length);
+    p.rotate(-90);
+    p.drawText(QPointF(0, -face.descentBelowInk), text);
+    p.restore();
+    labels_.push_back({text, box, true, face.font});
   }
 
   // Axis titles.

@@ -15,6 +15,7 @@
 #include <QMessageBox>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPlainTextEdit>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QProcess>
@@ -25,6 +26,9 @@
 #include <QVBoxLayout>
 
 #include "qtui/chart_widget.h"
+#include "qtui/header_label.h"
+#include "qtui/list_box.h"
+#include "qtui/minimise_window.h"
 #include "qtui/picture_widget.h"
 #include "qtui/rich_text_widget.h"
 #include "qtui/tree_widget.h"
@@ -217,7 +221,10 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
   window->setWindowTitle(Q(form.Caption()));
   window->setAttribute(Qt::WA_DeleteOnClose, false);
   if ((form.style() & kFormSplash) != 0) {
-    window->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    // An ordinary frameless window: shown after the main screen it stands
+    // above it, and any screen shown later comes in front of it (a splash
+    // window type or a stay-on-top hint would keep it above them all).
+    window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window->setFocusPolicy(Qt::StrongFocus);
   } else {
     window->setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
@@ -262,6 +269,20 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
         continue;
       }
       case Kind::TextBox: {
+        if ((c.flags() & kMultiLine) != 0) {
+          // A box of several lines wraps its text at the words, and scrolls
+          // only when the lines outgrow it.
+          auto* box = new QPlainTextEdit(parent);
+          box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+          box->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+          box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+          box->document()->setDocumentMargin(2);
+          Control* target = &c;
+          QObject::connect(box, &QPlainTextEdit::textChanged, this,
+                           [this, target, box] { Edited(*target, box->toPlainText()); });
+          w = box;
+          break;
+        }
         auto* edit = new QLineEdit(parent);
         Control* target = &c;
         QObject::connect(edit, &QLineEdit::textEdited, this, [this, target](const QString& t) { Edited(*target, t); });
@@ -275,7 +296,7 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
         break;
       }
       case Kind::Label: {
-        auto* label = new QLabel(parent);
+        auto* label = c.HeaderOf().empty() ? new QLabel(parent) : new HeaderLabel(parent);
         // Labels of several lines wrap and start at the top.
         const bool lines = c.rect().h > 30;
         label->setWordWrap(lines);
@@ -316,11 +337,11 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
         break;
       }
       case Kind::ListBox: {
-        auto* list = new QListWidget(parent);
+        auto* list = new ListBox(parent);
         Control* target = &c;
-        QObject::connect(list, &QListWidget::currentRowChanged, this, [this, target](int row) {
+        list->onSelected = [this, target](int row) {
           if (!syncing_) RowSelected(*target, row);
-        });
+        };
         w = list;
         break;
       }
@@ -374,6 +395,12 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
     w->setFont(FontFor(c, QApplication::font()));
     w->installEventFilter(this);
     fw.widgets[&c] = w;
+  }
+  for (auto& [control, widget] : fw.widgets) {
+    auto* header = qobject_cast<HeaderLabel*>(widget.data());
+    Control* list = header != nullptr ? form.find(control->HeaderOf()) : nullptr;
+    if (list != nullptr)
+      header->SetColumns(qobject_cast<QListWidget*>(fw.widgets[list].data()), control->HeaderColumns());
   }
   if (menuBar != nullptr) layout->setMenuBar(menuBar);
   layout->addWidget(content);
@@ -498,6 +525,8 @@ void QtView::Sync(Control& c) {
       edit->setCursorPosition(c.SelStart());
     }
     edit->setAlignment(AlignFor(c));
+  } else if (auto* box = qobject_cast<QPlainTextEdit*>(w)) {
+    if (box->toPlainText() != text) box->setPlainText(text);
   } else if (auto* label = qobject_cast<QLabel*>(w)) {
     label->setText(text);
   } else if (auto* button = qobject_cast<QPushButton*>(w)) {
@@ -525,7 +554,12 @@ void QtView::Sync(Control& c) {
         list->setFixedHeight(std::min(c.rect().h, rowsShown * row + frame));
       }
     }
-    list->setCurrentRow(c.ListIndex());
+    if (c.ListIndex() >= 0) {
+      list->setCurrentRow(c.ListIndex());
+    } else {
+      list->clearSelection();
+      list->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    }
   } else if (auto* picture = qobject_cast<PictureWidget*>(w)) {
     picture->Show(c.picture());
   } else if (auto* chart = qobject_cast<ChartWidget*>(w)) {
@@ -674,9 +708,16 @@ void QtPrinter::PrintImage(Form& form) {
 void QtLauncher::LaunchCalculator() {
   static const char* const kCalculators[] = {"gnome-calculator", "kcalc",        "mate-calc",   "galculator",
                                              "qalculate-gtk",    "qalculate-qt", "speedcrunch", "xcalc"};
+  // Started minimised: xcalc, an X toolkit program, by its -iconic option;
+  // the others by minimising their window once it is up.
   for (const char* name : kCalculators) {
     const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
-    if (!path.isEmpty() && QProcess::startDetached(path, {})) return;
+    if (path.isEmpty()) continue;
+    const bool xt = std::string_view(name) == "xcalc";
+    qint64 pid = 0;
+    if (!QProcess::startDetached(path, xt ? QStringList{QStringLiteral("-iconic")} : QStringList{}, {}, &pid)) continue;
+    if (!xt) MinimiseWindowOf(pid);
+    return;
   }
   Raise(ErrorCode::FileNotFound);
 }
