@@ -50,13 +50,13 @@ constexpr ControlSpec kControls[] = {
 
     {Kind::Label, "Label14", "The average atomic mass is ", {16, 256, 184, 22}},
     {Kind::TextBox, "Text14", "", {204, 252, 140, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text7", "", {16, 288, 556, 26}, {}, {}, -1, kDisabled | kMultiLine},
+    {Kind::TextBox, "Text7", "", {16, 288, 556, 58}, {}, {}, -1, kDisabled | kMultiLine},
 
-    {Kind::Button, "cmdOk", "Ok", {16, 332, 84, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 332, 84, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {200, 332, 84, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {292, 332, 84, 30}},
-    {Kind::Button, "cmdHelp", "?", {540, 334, 32, 26}, "Press for help", {}, -1, kSmall},
+    {Kind::Button, "cmdOk", "Ok", {16, 362, 84, 30}, "Press to calculate your answer.", {}, -1, kDefault},
+    {Kind::Button, "cmdClear", "Clear", {108, 362, 84, 30}},
+    {Kind::Button, "cmdCancel", "Cancel", {200, 362, 84, 30}, {}, {}, -1, kCancel},
+    {Kind::Button, "cmdPrint", "Print", {292, 362, 84, 30}},
+    {Kind::Button, "cmdHelp", "?", {540, 364, 32, 26}, "Press for help", {}, -1, kSmall},
 };
 
 // The inputs in reading order: weight and occurrence of each isotope.
@@ -72,7 +72,7 @@ constexpr std::string_view kHelp =
 }  // namespace
 
 frmAverageMass::frmAverageMass(Program& program)
-    : CalculatorScreen(program, {"frmAverageMass", "Average Atomic Mass", 588, 376}, kControls,
+    : CalculatorScreen(program, {"frmAverageMass", "Average Atomic Mass", 588, 406}, kControls,
                        {"frmMoleChoice", "", kHelp}) {
   Bind("Form", Ev::Load, &frmAverageMass::Form_Load);
   Bind("cmdOk", Ev::Click, &frmAverageMass::cmdOk_Click);

@@ -44,15 +44,29 @@ ValueScale ScaleFor(const ChartContent& content, const ChartMetrics& m, const QR
 }
 
 // The plot area leaves room for the value axis title and tick labels on the
-// left, the category tick labels and title below.
+// left, the category labels (as deep as their face needs) and title below.
 QRectF PlotArea(const ChartContent& content, const ChartMetrics& m, const QRectF& area, double tickWidth) {
-  const double tick = ChartLayout::kTick;
   QRectF plot = area;
-  plot.setLeft(area.left() + (content.valueTitle.empty() ? 0 : m.axisHeight + 8) + tickWidth + tick + 6);
+  plot.setLeft(area.left() + (content.valueTitle.empty() ? 0 : m.axisHeight + 8) + tickWidth + ChartLayout::kTick + 6);
   plot.setRight(area.right() - 8);
   plot.setTop(area.top() + m.tickHeight / 2);
-  plot.setBottom(area.bottom() - (content.categoryTitle.empty() ? 0 : m.axisHeight + 4) - m.tickHeight - tick - 6);
   return plot;
+}
+
+void SetPlotBottom(const ChartContent& content, const ChartMetrics& m, ChartLayout& l) {
+  l.plot.setBottom(l.area.bottom() - (content.categoryTitle.empty() ? 0 : m.axisHeight + 4) - l.face.depth -
+                   ChartLayout::kTick - 6);
+}
+
+// Side by side in the tick font where the widest label fits its slot.
+CategoryFace FaceFor(const ChartContent& content, const ChartMetrics& m, double slot) {
+  std::vector<QString> labels;
+  for (const ChartPoint& pt : content.points) labels.push_back(Label(pt));
+  if (m.categoryFace) return m.categoryFace(labels, slot);
+  CategoryFace face;
+  face.depth = m.tickHeight;
+  face.width = m.tickWidth;
+  return face;
 }
 
 double YOf(const ChartLayout& l, double v) {
@@ -77,31 +91,22 @@ void LayoutValueTicks(const ChartMetrics& m, double tickWidth, ChartLayout& l) {
   }
 }
 
-// Category ticks, and labels as often as they fit side by side: every
-// first, second, fifth, tenth ... row.
+// Category ticks, and a label at every one.
 void LayoutCategories(const ChartContent& content, const ChartMetrics& m, ChartLayout& l) {
-  double labelWidth = 0;
-  for (const ChartPoint& pt : content.points) labelWidth = std::max(labelWidth, m.tickWidth(Label(pt)));
-  std::size_t every = 1;
-  for (std::size_t n : {1, 2, 5, 10, 20, 50, 100, 200, 500, 1000}) {
-    every = n;
-    if (l.slot * static_cast<double>(n) >= labelWidth + 8) break;
-  }
   const TickStyle style = content.categoryTicks;
   const double tickUp = style == TickStyle::Centre || style == TickStyle::Inside ? ChartLayout::kTick : 0;
   const double tickDown = style == TickStyle::Centre || style == TickStyle::Outside ? ChartLayout::kTick : 0;
-  const double span = l.slot * static_cast<double>(every);
+  const double top = l.plot.bottom() + ChartLayout::kTick + 4;
   for (std::size_t i = 0; i < content.points.size(); ++i) {
     ChartLayout::Category c;
-    c.labelled = (i + 1) % every == 0;
     c.tick = style != TickStyle::None;
     c.tickX = content.labelAtTick ? XOf(l, i) : l.plot.left() + static_cast<double>(i) * l.slot;
     c.tickTop = l.plot.bottom() - tickUp;
-    c.tickBottom = l.plot.bottom() + tickDown + (c.labelled && every > 1 ? 2 : 0);
-    if (c.labelled) {
-      c.labelBox = QRectF(XOf(l, i) - span / 2 - 20, l.plot.bottom() + ChartLayout::kTick + 4, span + 40, m.tickHeight);
-      c.label = Label(content.points[i]);
-    }
+    c.tickBottom = l.plot.bottom() + tickDown;
+    c.label = Label(content.points[i]);
+    const double length = l.face.width(c.label);
+    c.labelBox = l.face.upright ? QRectF(XOf(l, i) - l.face.thickness / 2, top, l.face.thickness, length)
+                                : QRectF(XOf(l, i) - length / 2, top, length, m.tickHeight);
     l.categories.push_back(c);
   }
 }
@@ -177,10 +182,12 @@ ChartLayout LayoutChart(const ChartContent& content, const QRectF& frame, const 
     tickWidth = std::max(tickWidth, metrics.tickWidth(TickText(l.scale.lo + k * l.scale.step, l.scale)));
   }
   l.plot = PlotArea(content, metrics, l.area, tickWidth);
-  l.fits = l.plot.width() >= 10 && l.plot.height() >= 10;
-  if (!l.fits) return l;
   const std::size_t n = content.points.size();
   l.slot = n > 0 ? l.plot.width() / static_cast<double>(n) : l.plot.width();
+  l.face = FaceFor(content, metrics, l.slot);
+  SetPlotBottom(content, metrics, l);
+  l.fits = l.plot.width() >= 10 && l.plot.height() >= 10;
+  if (!l.fits) return l;
   LayoutValueTicks(metrics, tickWidth, l);
   LayoutCategories(content, metrics, l);
   LayoutAxisTitles(content, metrics, l);

@@ -30,14 +30,27 @@ ValueScale MakeScale(double lo, double hi, int wanted);
 // A tick's value with the scale's decimals.
 QString TickText(double v, const ValueScale& s);
 
-// The heights of the chart's four kinds of text, and the width of a tick
-// label (value or category) as the tick font sets it.
+// How the category labels stand: side by side in the tick font where each
+// fits its slot, otherwise upright in a face small enough for one slot each.
+struct CategoryFace {
+  bool upright = false;
+  int pixelSize = 0;           // the upright face's size; 0 keeps the tick font
+  double depth = 0;            // room the labels take below the axis
+  double thickness = 0;        // an upright label's extent across its slot
+  double descentBelowInk = 0;  // from the baseline up to the digits' foot
+  std::function<double(const QString&)> width;  // a label's length in the face
+};
+
+// The heights of the chart's four kinds of text, the width of a tick label
+// (value or category) as the tick font sets it, and the face of the category
+// labels for the width of one slot.
 struct ChartMetrics {
   double titleHeight = 0;
   double axisHeight = 0;
   double tickHeight = 0;
   double noteHeight = 0;
   std::function<double(const QString&)> tickWidth;
+  std::function<CategoryFace(const std::vector<QString>& labels, double slot)> categoryFace;
 };
 
 struct ChartLayout {
@@ -50,14 +63,14 @@ struct ChartLayout {
     QRectF labelBox;  // the label stands right-aligned in it
   };
   // A row on the category axis: its tick, if the chart has ticks, and its
-  // label, if there is room for this one.
+  // label. An upright label reads from the bottom up and ends at the axis;
+  // its box is the room it covers.
   struct Category {
     bool tick = false;
     double tickX = 0;
     double tickTop = 0;
     double tickBottom = 0;
-    bool labelled = false;
-    QRectF labelBox;  // the label stands centred at its top
+    QRectF labelBox;  // side by side, the label stands centred at its top
     QString label;
   };
 
@@ -76,6 +89,7 @@ struct ChartLayout {
   double slot = 0;  // the width of one row
   std::vector<ValueTick> valueTicks;
   std::vector<Category> categories;
+  CategoryFace face;
   QRectF categoryTitleBand;  // empty without a title
   // The value title runs upwards, centred in a band about this point.
   QPointF valueTitleCentre;

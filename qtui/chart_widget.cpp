@@ -2,6 +2,8 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
+#include <cmath>
 
 #include "qtui/chart_layout.h"
 
@@ -28,9 +30,57 @@ struct ChartFonts {
   }
   ChartMetrics Metrics() const {
     const QFontMetricsF tickFm(tick);
-    return {QFontMetricsF(title).height(), QFontMetricsF(axis).height(), tickFm.height(), QFontMetricsF(note).height(),
-            [tickFm](const QString& s) { return tickFm.horizontalAdvance(s); }};
+    return {QFontMetricsF(title).height(),
+            QFontMetricsF(axis).height(),
+            tickFm.height(),
+            QFontMetricsF(note).height(),
+            [tickFm](const QString& s) { return tickFm.horizontalAdvance(s); },
+            [this](const std::vector<QString>& labels, double slot) { return CategoryFaceFor(labels, slot); }};
   }
+
+  // The tick face side by side when each label fits its slot, otherwise
+  // upright, shrunk until the digits' height fits the slot with a pixel to
+  // spare (never below a face of 6 pixels).
+  CategoryFace CategoryFaceFor(const std::vector<QString>& labels, double slot) const {
+    auto widthIn = [](const QFont& f) {
+      const QFontMetricsF fm(f);
+      return [fm](const QString& s) { return fm.horizontalAdvance(s); };
+    };
+    auto widest = [&](const QFont& f) {
+      double w = 0;
+      for (const QString& label : labels) w = std::max(w, widthIn(f)(label));
+      return w;
+    };
+    CategoryFace face;
+    if (widest(tick) + 4 <= slot) {
+      face.depth = QFontMetricsF(tick).height();
+      face.width = widthIn(tick);
+      return face;
+    }
+    face.upright = true;
+    QFont f = tick;
+    for (double px = QFontInfo(tick).pixelSize();; px -= 0.5) {
+      f.setPixelSize(static_cast<int>(std::lround(px)));
+      const QRectF ink = QFontMetricsF(f).tightBoundingRect(QStringLiteral("0123456789"));
+      if (ink.height() + 1 <= slot || px <= 6) {
+        face.thickness = ink.height();
+        face.descentBelowInk = ink.bottom();  // at or just below the baseline
+        break;
+      }
+    }
+    face.pixelSize = f.pixelSize();
+    face.depth = widest(f);
+    face.width = widthIn(f);
+    return face;
+  }
+
+  // The face the category labels are drawn in.
+  QFont CategoryFont(const CategoryFace& face) const {
+    QFont f = tick;
+    if (face.pixelSize > 0) f.setPixelSize(face.pixelSize);
+    return f;
+  }
+
   QFont title, axis, tick, note;
 };
 
@@ -63,17 +113,30 @@ void DrawValueAxis(QPainter& p, const ChartLayout& l, const ChartFonts& fonts) {
   p.drawLine(l.plot.bottomLeft(), l.plot.bottomRight());
 }
 
-void DrawCategoryAxis(QPainter& p, const ChartLayout& l) {
+// Category ticks, and every label: upright ones read from the bottom up and
+// end at the axis. Returns the labels as drawn.
+std::vector<ChartWidget::CategoryLabel> DrawCategoryAxis(QPainter& p, const ChartLayout& l, const ChartFonts& fonts) {
+  std::vector<ChartWidget::CategoryLabel> drawn;
+  const QFont face = fonts.CategoryFont(l.face);
+  p.setFont(face);
   for (const ChartLayout::Category& c : l.categories) {
     if (c.tick) {
       p.setPen(QPen(kAxis, 1));
       p.drawLine(QPointF(c.tickX, c.tickTop), QPointF(c.tickX, c.tickBottom));
     }
-    if (c.labelled) {
-      p.setPen(kInk);
+    p.setPen(kInk);
+    if (l.face.upright) {
+      p.save();
+      p.translate(c.labelBox.left() + l.face.thickness, c.labelBox.bottom());
+      p.rotate(-90);
+      p.drawText(QPointF(0, -l.face.descentBelowInk), c.label);
+      p.restore();
+    } else {
       p.drawText(c.labelBox, Qt::AlignHCenter | Qt::AlignTop, c.label);
     }
+    drawn.push_back({c.label, c.labelBox, l.face.upright, face});
   }
+  return drawn;
 }
 
 void DrawAxisTitles(QPainter& p, const ChartContent& content, const ChartLayout& l, const ChartFonts& fonts) {
@@ -145,9 +208,10 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
   const ChartFonts fonts(font());
   const ChartLayout l = LayoutChart(content_, QRectF(rect()), fonts.Metrics());
   DrawTitles(p, content_, l, fonts);
+  labels_.clear();
   if (!l.fits) return;
   DrawValueAxis(p, l, fonts);
-  DrawCategoryAxis(p, l);
+  labels_ = DrawCategoryAxis(p, l, fonts);
   DrawAxisTitles(p, content_, l, fonts);
   p.save();
   p.setClipRect(l.plot.adjusted(-4, -4, 4, 4));

@@ -3,7 +3,11 @@
 // two-dimensional chart of the values against the row labels, with a title,
 // a footnote, two titled axes, ticks, tick labels and light grid lines.
 
+#include <QFont>
+#include <QRectF>
+#include <QString>
 #include <QWidget>
+#include <vector>
 
 #include "shell/chart.h"
 
@@ -21,11 +25,22 @@ class ChartWidget : public QWidget {
   // The chart as this widget paints it.
   const ChartContent& Content() const { return content_; }
 
+  // The category labels as last painted: text, box in the widget's
+  // coordinates (upright labels: the box they cover), upright or not, face.
+  struct CategoryLabel {
+    QString text;
+    QRectF box;
+    bool upright;
+    QFont font;
+  };
+  const std::vector<CategoryLabel>& CategoryLabels() const { return labels_; }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   ChartContent content_;
+  std::vector<CategoryLabel> labels_;
 };
 
 }  // namespace orv::qt

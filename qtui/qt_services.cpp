@@ -10,6 +10,7 @@
 #include <QStandardPaths>
 
 #include "qtui/control_adapter.h"
+#include "qtui/minimise_window.h"
 #include "qtui/qt_view.h"
 #include "shell/errors.h"
 
@@ -47,9 +48,16 @@ void QtPrinter::PrintImage(Form& form) {
 void QtLauncher::LaunchCalculator() {
   static const char* const kCalculators[] = {"gnome-calculator", "kcalc",        "mate-calc",   "galculator",
                                              "qalculate-gtk",    "qalculate-qt", "speedcrunch", "xcalc"};
+  // Started minimised: xcalc, an X toolkit program, by its -iconic option;
+  // the others by minimising their window once it is up.
   for (const char* name : kCalculators) {
     const QString path = QStandardPaths::findExecutable(QString::fromLatin1(name));
-    if (!path.isEmpty() && QProcess::startDetached(path, {})) return;
+    if (path.isEmpty()) continue;
+    const bool xt = std::string_view(name) == "xcalc";
+    qint64 pid = 0;
+    if (!QProcess::startDetached(path, xt ? QStringList{QStringLiteral("-iconic")} : QStringList{}, {}, &pid)) continue;
+    if (!xt) MinimiseWindowOf(pid);
+    return;
   }
   Raise(ErrorCode::FileNotFound);
 }

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
+#include <QListWidget>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
@@ -11,6 +12,7 @@
 #include "qtui/accessibility.h"
 #include "qtui/control_adapter.h"
 #include "qtui/focus_frame.h"
+#include "qtui/header_label.h"
 #include "qtui/qt_keys.h"
 
 namespace orv::qt {
@@ -46,7 +48,10 @@ FormWindow* MakeWindow(QtView& view, Form& form) {
   window->setWindowTitle(Q(form.Caption()));
   window->setAttribute(Qt::WA_DeleteOnClose, false);
   if ((form.style() & kFormSplash) != 0) {
-    window->setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    // An ordinary frameless window: shown after the main screen it stands
+    // above it, and any screen shown later comes in front of it (a splash
+    // window type or a stay-on-top hint would keep it above them all).
+    window->setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     window->setFocusPolicy(Qt::StrongFocus);
   } else {
     window->setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
@@ -123,6 +128,12 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
       w->setFont(FontFor(c, QApplication::font()));
       w->installEventFilter(this);
     }
+  }
+  // A header label paints its words over the columns of the list it heads.
+  for (auto& [control, shown] : fw.shown) {
+    auto* header = qobject_cast<HeaderLabel*>(shown);
+    Control* list = header != nullptr ? form.find(control->HeaderOf()) : nullptr;
+    if (list != nullptr) header->SetColumns(qobject_cast<QListWidget*>(fw.shown[list]), control->HeaderColumns());
   }
   if (QMenuBar* bar = context.ExistingMenuBar()) layout->setMenuBar(bar);
   layout->addWidget(content);

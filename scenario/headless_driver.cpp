@@ -50,7 +50,8 @@ class HeadlessDriver : public Driver {
   std::string Text(Control& c) override { return c.Text(); }
   bool Enabled(Control& c) override { return c.Enabled(); }
   bool Visible(Control& c) override { return c.Visible(); }
-  bool Checked(Control& c) override { return c.Value(); }
+  // A list box counts as selected while a row is chosen.
+  bool Checked(Control& c) override { return c.kind() == Kind::ListBox ? c.ListIndex() != -1 : c.Value(); }
   bool Focused(Control& c) override { return c.HasFocus(); }
   std::string ToolTip(Control& c) override { return c.ToolTip(); }
   int Colour(Control& c, bool back) override { return back ? c.BackColor() : c.ForeColor(); }

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QTest>
+#include <QPlainTextEdit>
 #include <QTextEdit>
 #include <QTimer>
 #include <QTreeWidget>
@@ -128,6 +129,12 @@ class QtDriver : public Driver {
     return w->isVisibleTo(w->window());
   }
   bool Checked(Control& c) override {
+    // A list box counts as selected while a row stands highlighted as the
+    // current one.
+    if (c.kind() == Kind::ListBox) {
+      auto* list = qobject_cast<QListWidget*>(W(c));
+      return list != nullptr && (list->currentRow() != -1 || !list->selectedItems().isEmpty());
+    }
     auto* b = qobject_cast<QAbstractButton*>(W(c));
     if (b == nullptr) Fail(c.key() + " has no check state");
     return b->isChecked();
@@ -190,11 +197,16 @@ class QtDriver : public Driver {
 };
 
 void QtDriver::Focus(Control& c) {
+  // As a user does: the window is activated only when it isn't active; a box
+  // is focused by a click into it, a list by the keyboard (a click on a list
+  // would choose a row).
   QWidget* w = W(c);
   QWidget* window = w->window();
-  window->activateWindow();
-  QApplication::setActiveWindow(window);
-  w->setFocus(Qt::MouseFocusReason);
+  if (QApplication::activeWindow() != window) {
+    window->activateWindow();
+    QApplication::setActiveWindow(window);
+  }
+  w->setFocus(c.kind() == Kind::ListBox ? Qt::TabFocusReason : Qt::MouseFocusReason);
   Settle();
   if (c.form().Loaded() && !c.HasFocus() && c.TakesInput()) program_->UserFocus(c);
 }
@@ -285,6 +297,7 @@ std::string QtDriver::Text(Control& c) {
   QWidget* w = W(c);
   if (auto* e = qobject_cast<QLineEdit*>(w)) return e->text().toStdString();
   if (auto* r = qobject_cast<QTextEdit*>(w)) return r->toPlainText().toStdString();
+  if (auto* m = qobject_cast<QPlainTextEdit*>(w)) return m->toPlainText().toStdString();
   if (auto* l = qobject_cast<QLabel*>(w)) return l->text().toStdString();
   if (auto* b = qobject_cast<QAbstractButton*>(w)) return b->text().toStdString();
   if (auto* g = qobject_cast<QGroupBox*>(w)) return g->title().toStdString();

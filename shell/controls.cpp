@@ -243,6 +243,11 @@ const std::string& Control::List(int row) const {
   return list_[static_cast<std::size_t>(row)];
 }
 
+void Control::SetColumnHeader(std::string list, std::vector<int> columns) {
+  headerOf_ = std::move(list);
+  headerColumns_ = std::move(columns);
+}
+
 void Control::SetListIndex(int row) {
   if (row < -1 || row >= ListCount()) Raise(ErrorCode::InvalidProcedureCall);
   if (row == listIndex_) return;

@@ -145,6 +145,14 @@ class Control {
   int ListIndex() const { return listIndex_; }
   void SetListIndex(int row);
 
+  // Labels over a list of padded rows: the list, and the character column of
+  // the list under which each of the label's words stands. The label's text
+  // stays as it is; its groups of words (parted by two blanks or more) are
+  // shown over those columns, in order.
+  void SetColumnHeader(std::string list, std::vector<int> columns);
+  const std::string& HeaderOf() const { return headerOf_; }
+  const std::vector<int>& HeaderColumns() const { return headerColumns_; }
+
   // Picture boxes: the drawing surface (shell/picture.h). Asking any other
   // control for it is a programming error and aborts.
   Picture& picture() const;
@@ -203,6 +211,8 @@ class Control {
   int selLength_ = 0;
   std::vector<std::string> list_;
   int listIndex_ = -1;
+  std::string headerOf_;
+  std::vector<int> headerColumns_;
   std::shared_ptr<Picture> picture_;  // picture boxes only
   std::shared_ptr<Chart> chart_;      // charts only
   std::shared_ptr<RichText> rich_;    // rich text boxes only

@@ -127,6 +127,65 @@ double ParseDouble(std::string_view text) {
   return value;
 }
 
+// The text as a float, rounded once from its decimal digits (a detour
+// through a double could round twice): "Overflow" beyond the float range, 0
+// (keeping the sign) below it.
+float ParseFloat(std::string_view text) {
+  long long order = 0;
+  const std::string clean = ScanNumber(text, order);
+  float value = 0.0f;
+  const auto [ptr, ec] = std::from_chars(clean.data(), clean.data() + clean.size(), value);
+  if (ec == std::errc::result_out_of_range) {
+    if (order > 0) Raise(ErrorCode::Overflow);
+    return clean[0] == '-' ? -0.0f : 0.0f;
+  }
+  if (ec != std::errc() || ptr != clean.data() + clean.size()) Raise(ErrorCode::TypeMismatch);
+  if (!std::isfinite(value)) Raise(ErrorCode::Overflow);
+  return value;
+}
+
+// The text as a 16-bit integer, rounded from its decimal digits: only a text
+// that is exactly half way between two integers is a tie (and goes to the
+// even one), however many digits it takes to tell.
+std::int16_t ParseInteger(std::string_view text) {
+  long long order = 0;
+  const std::string clean = ScanNumber(text, order);
+  if (order > 5) Raise(ErrorCode::Overflow);  // 10^6 and more: out of range whatever the digits
+  const bool negative = clean[0] == '-';
+  std::string digits;  // every mantissa digit, the point dropped
+  long long pointAt = -1;
+  long long exponent = 0;
+  for (std::size_t i = negative ? 1 : 0; i < clean.size(); ++i) {
+    const char c = clean[i];
+    if (c == '.') {
+      pointAt = static_cast<long long>(digits.size());
+    } else if (c == 'e') {
+      const auto [p, ec] = std::from_chars(clean.data() + i + 1, clean.data() + clean.size(), exponent);
+      if (ec == std::errc::result_out_of_range) exponent = clean[i + 1] == '-' ? -2'000'000'000 : 2'000'000'000;
+      break;
+    } else {
+      digits += c;
+    }
+  }
+  if (pointAt < 0) pointAt = static_cast<long long>(digits.size());
+  // Digits before `wholeEnd` make the whole part; the rest are the fraction.
+  const long long wholeEnd = pointAt + exponent;
+  const long long size = static_cast<long long>(digits.size());
+  auto digitAt = [&](long long k) { return k >= 0 && k < size ? digits[static_cast<std::size_t>(k)] : '0'; };
+  long long whole = 0;
+  if (order >= 0) {
+    for (long long k = 0; k < wholeEnd; ++k) whole = whole * 10 + (digitAt(k) - '0');
+  }
+  const char first = digitAt(wholeEnd);  // the first decimal
+  bool beyondHalf = false;               // any non-zero digit after it
+  for (long long k = std::max(wholeEnd + 1, 0LL); k < size; ++k)
+    beyondHalf |= digits[static_cast<std::size_t>(k)] != '0';
+  if (first > '5' || (first == '5' && (beyondHalf || whole % 2 != 0))) ++whole;
+  if (negative) whole = -whole;
+  if (whole < -32768 || whole > 32767) Raise(ErrorCode::Overflow);
+  return static_cast<std::int16_t>(whole);
+}
+
 // ---------------------------------------------------------------------------
 // Number to text
 
@@ -367,11 +426,10 @@ Integer& Integer::operator--() {
 Integer& Integer::operator+=(Expr e) { return *this = Integer(Expr(v_) + e); }
 Integer& Integer::operator-=(Expr e) { return *this = Integer(Expr(v_) - e); }
 
-// The decimal text goes to a double first and then to the narrower type: a
-// text lying within a hair of a float's rounding midpoint may round twice.
-Single CSng(std::string_view text) { return Single(Expr(ParseDouble(text))); }
+// Each conversion rounds once, from the text's own digits.
+Single CSng(std::string_view text) { return Single(Expr(ParseFloat(text))); }
 Double CDbl(std::string_view text) { return Double(Expr(ParseDouble(text))); }
-Integer CInt(std::string_view text) { return Integer(Expr(ParseDouble(text))); }
+Integer CInt(std::string_view text) { return Integer(Expr(ParseInteger(text))); }
 Integer CInt(Expr e) { return Integer(e); }
 
 std::string Str(Single x) { return ShortestText(x.value(), kSingleDigits); }

@@ -62,6 +62,7 @@ frmFreezing::frmFreezing(Program& program)
   EnterRunsOk("Text1");
   EnterRunsOk("Text2");
   EnterRunsOk("Text3");
+  ctl("Label6").SetColumnHeader("lstList1", ColumnStarts(kColumns));
 }
 
 // Filling the list is not trapped: a failure there ends the program.

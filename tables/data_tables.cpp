@@ -37,9 +37,10 @@ constexpr PaddedColumn kVaporPressure[] = {
     {"Temperature", "###", "General Number", "           "},
     {"Pressure", "###.##", "Standard"},
 };
-// The gap between the two columns depends on the row (StandardRow).
+// A potential of 0 takes a gap one blank shorter (StandardRow).
 constexpr PaddedColumn kStandard[] = {
-    {"HalfReaction", "000000000000000000000000000000000000000000000", "000000000000000000000000000000000000000000000"},
+    {"HalfReaction", "000000000000000000000000000000000000000000000", "000000000000000000000000000000000000000000000",
+     "    "},
     {"Volts", "##.####", "##.####"},
 };
 constexpr PaddedColumn kEnthalpies[] = {
@@ -86,10 +87,10 @@ constexpr PaddedColumn kHalfLives[] = {
 // A potential of 0 would come out of its pattern as a lone point, so such a
 // row shows "0.000" instead, one place further left.
 std::string StandardRow(const data::Recordset& rs, std::span<const PaddedColumn> columns) {
-  const std::string reaction = PaddedRow(rs, columns.first(1));
+  const std::string reaction = PaddedRow(rs, columns.first(1));  // with its gap of four blanks
   const std::string volts = PaddedRow(rs, columns.subspan(1));
-  if (CDbl(rs.Field("Volts")).value() == 0) return reaction + "   " + "0.000";
-  return reaction + "    " + volts;
+  if (CDbl(rs.Field("Volts")).value() == 0) return reaction.substr(0, reaction.size() - 1) + "0.000";
+  return reaction + volts;
 }
 
 constexpr DataTableSpec kTables[] = {
@@ -206,6 +207,7 @@ DataTableScreen::DataTableScreen(Program& program, const DataTableSpec& design)
       design_(design) {
   Bind("Form", Ev::Load, &DataTableScreen::Form_Load);
   Bind("cmdCancel", Ev::Click, &DataTableScreen::cmdCancel_Click);
+  ctl(design.headerLabel).SetColumnHeader("List1", ColumnStarts(design.columns));
 }
 
 // Nothing here is trapped: no database, an empty table or a field with no

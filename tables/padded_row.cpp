@@ -24,6 +24,16 @@ std::string FormatField(const Variant& value, std::string_view pattern) {
   return Format(CDbl(value), pattern);
 }
 
+std::vector<int> ColumnStarts(std::span<const PaddedColumn> columns) {
+  std::vector<int> starts;
+  int at = 0;
+  for (const PaddedColumn& column : columns) {
+    starts.push_back(at);
+    at += CharCount(column.widthTemplate) + CharCount(column.gap);
+  }
+  return starts;
+}
+
 std::string PaddedRow(const data::Recordset& rs, std::span<const PaddedColumn> columns) {
   std::string row;
   for (const PaddedColumn& column : columns) {

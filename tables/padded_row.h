@@ -6,6 +6,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "data/engine.h"
 
@@ -25,6 +26,9 @@ std::string LeftJustify(std::string_view text, int width);
 // that is not a number as it stands. A field with no value raises "Invalid
 // use of Null".
 std::string FormatField(const Variant& value, std::string_view pattern);
+
+// The character column at which each column starts in a row.
+std::vector<int> ColumnStarts(std::span<const PaddedColumn> columns);
 
 // The row of the record set's current record.
 std::string PaddedRow(const data::Recordset& rs, std::span<const PaddedColumn> columns);

@@ -3,6 +3,7 @@
 #include <QLabel>
 
 #include "qtui/adapters/adapters.h"
+#include "qtui/header_label.h"
 
 namespace orv::qt {
 
@@ -11,7 +12,8 @@ namespace {
 class Label : public ControlAdapter {
  public:
   QObject* Create(Control& c, BuildContext& context) const override {
-    auto* label = new QLabel(context.parent);
+    // The header of a list of padded rows lines its words up over the columns.
+    QLabel* label = c.HeaderOf().empty() ? new QLabel(context.parent) : new HeaderLabel(context.parent);
     // Labels of several lines wrap and start at the top.
     const bool lines = c.rect().h > 30;
     label->setWordWrap(lines);

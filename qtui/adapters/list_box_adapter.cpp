@@ -5,21 +5,23 @@
 #include <algorithm>
 
 #include "qtui/adapters/adapters.h"
+#include "qtui/list_box.h"
 #include "qtui/qt_view.h"
 
 namespace orv::qt {
 
 namespace {
 
-class ListBox : public ControlAdapter {
+class ListBoxKind : public ControlAdapter {
  public:
   QObject* Create(Control& c, BuildContext& context) const override {
-    auto* list = new QListWidget(context.parent);
+    // Only the user's own selection is the list's Click, never the focus.
+    auto* list = new ListBox(context.parent);
     QtView& view = context.view;
     Control* target = &c;
-    QObject::connect(list, &QListWidget::currentRowChanged, &view, [&view, target](int row) {
+    list->onSelected = [&view, target](int row) {
       if (!view.Syncing()) view.RowSelected(*target, row);
-    });
+    };
     return list;
   }
 
@@ -28,7 +30,14 @@ class ListBox : public ControlAdapter {
     if (SyncCommon(c, list, what)) return;
     if (what == Prop::List) ShowRows(c, list);
     // Emptying or shortening the list clears the selection too.
-    if (what == Prop::List || what == Prop::ListIndex) list->setCurrentRow(c.ListIndex());
+    if (what != Prop::List && what != Prop::ListIndex) return;
+    if (c.ListIndex() >= 0) {
+      list->setCurrentRow(c.ListIndex());
+    } else {
+      // No row chosen: none selected, and none marked as current either.
+      list->clearSelection();
+      list->selectionModel()->setCurrentIndex(QModelIndex(), QItemSelectionModel::NoUpdate);
+    }
   }
 
  private:
@@ -54,7 +63,7 @@ class ListBox : public ControlAdapter {
 }  // namespace
 
 const ControlAdapter& ListBoxAdapter() {
-  static const ListBox adapter;
+  static const ListBoxKind adapter;
   return adapter;
 }
 

@@ -3,6 +3,7 @@
 // of the caret as the box's selection.
 
 #include <QLineEdit>
+#include <QPlainTextEdit>
 
 #include "qtui/adapters/adapters.h"
 #include "qtui/qt_view.h"
@@ -14,6 +15,7 @@ namespace {
 class TextBox : public ControlAdapter {
  public:
   QObject* Create(Control& c, BuildContext& context) const override {
+    if ((c.flags() & kMultiLine) != 0) return CreateLines(c, context);
     auto* edit = new QLineEdit(context.parent);
     edit->setAlignment(AlignFor(c));
     QtView& view = context.view;
@@ -29,6 +31,12 @@ class TextBox : public ControlAdapter {
   }
 
   void Sync(const Control& c, QObject* shown, Prop what) const override {
+    if (auto* box = qobject_cast<QPlainTextEdit*>(shown)) {
+      if (SyncCommon(c, box, what)) return;
+      const QString text = Q(c.Text());
+      if (what == Prop::Text && box->toPlainText() != text) box->setPlainText(text);
+      return;
+    }
     auto* edit = static_cast<QLineEdit*>(shown);
     if (SyncCommon(c, edit, what)) return;
     // A new text puts the caret where the model has it, so the text and
@@ -47,6 +55,22 @@ class TextBox : public ControlAdapter {
   }
 
   bool TakesDoubleClick() const override { return false; }
+
+ private:
+  // A box of several lines wraps its text at the words, and scrolls only when
+  // the lines outgrow it.
+  static QObject* CreateLines(Control& c, BuildContext& context) {
+    auto* box = new QPlainTextEdit(context.parent);
+    box->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    box->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    box->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    box->document()->setDocumentMargin(2);
+    QtView& view = context.view;
+    Control* target = &c;
+    QObject::connect(box, &QPlainTextEdit::textChanged, &view,
+                     [&view, target, box] { view.Edited(*target, box->toPlainText()); });
+    return box;
+  }
 };
 
 }  // namespace

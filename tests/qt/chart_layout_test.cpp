@@ -9,7 +9,7 @@ namespace orv::qt {
 namespace {
 
 ChartMetrics FixedMetrics() {
-  return {10, 10, 10, 10, [](const QString& s) { return 6.0 * static_cast<double>(s.size()); }};
+  return {10, 10, 10, 10, [](const QString& s) { return 6.0 * static_cast<double>(s.size()); }, {}};
 }
 
 ChartPoint Row(const char* label, Variant value) { return {label, value}; }
@@ -82,9 +82,9 @@ TEST(ChartLayout, PlacesTitlesAxesTicksAndValues) {
   EXPECT_DOUBLE_EQ(c.tickX, 44 + 2.5 * 84.5);
   EXPECT_DOUBLE_EQ(c.tickTop, 240);
   EXPECT_DOUBLE_EQ(c.tickBottom, 244);
-  EXPECT_TRUE(c.labelled);
   EXPECT_EQ(c.label, "c");
-  EXPECT_EQ(c.labelBox, QRectF(c.tickX - 42.25 - 20, 248, 124.5, 10));
+  // Side by side, a label is as wide as its text and centred on its tick.
+  EXPECT_EQ(c.labelBox, QRectF(c.tickX - 3, 248, 6, 10));
 
   EXPECT_EQ(l.categoryTitleBand, QRectF(44, 264, 338, 10));
   EXPECT_EQ(l.valueTitleCentre, QPointF(15, 136.5));
@@ -119,22 +119,39 @@ TEST(ChartLayout, BarsStandOnTheBaseLineAndTicksSitBetweenLabels) {
   EXPECT_DOUBLE_EQ(l.bars[1]->center().x(), l.plot.left() + 1.5 * l.slot);
 }
 
-TEST(ChartLayout, LabelsThatWouldCollideAreThinnedToEveryTenth) {
+TEST(ChartLayout, CrowdedLabelsStandUprightOneAtEveryTick) {
   ChartContent content;
   for (int i = 1; i <= 100; ++i) content.points.push_back(Row("123", i));
-  const ChartLayout l = LayoutChart(content, QRectF(0, 0, 400, 300), FixedMetrics());
+  content.labelAtTick = true;
+  ChartMetrics metrics = FixedMetrics();
+  // A face that lays a label upright 3 pixels thick and 12 long.
+  metrics.categoryFace = [](const std::vector<QString>& labels, double slot) {
+    CategoryFace face;
+    face.upright = slot < 20;
+    face.thickness = 3;
+    face.depth = face.upright ? 12 : 10;
+    face.width = [upright = face.upright](const QString& s) { return (upright ? 4.0 : 6.0) * s.size(); };
+    EXPECT_EQ(labels.size(), 100u);
+    return face;
+  };
+  const ChartLayout l = LayoutChart(content, QRectF(0, 0, 400, 300), metrics);
   ASSERT_TRUE(l.fits);
-  // Slots of 3.44 pixels: a label of 18 pixels and its gap need ten of them.
   EXPECT_DOUBLE_EQ(l.slot, 3.44);
-  int labels = 0;
+  ASSERT_EQ(l.categories.size(), 100u);
   for (std::size_t i = 0; i < l.categories.size(); ++i) {
     const auto& c = l.categories[i];
-    EXPECT_EQ(c.labelled, (i + 1) % 10 == 0) << i;
-    // A labelled row's tick is longer.
-    EXPECT_DOUBLE_EQ(c.tickBottom - c.tickTop, c.labelled ? 6 : 4) << i;
-    labels += c.labelled ? 1 : 0;
+    EXPECT_EQ(c.label, "123") << i;
+    // Each upright label is centred on its tick, as deep as the face says,
+    // and clear of its neighbour.
+    EXPECT_NEAR(c.labelBox.center().x(), c.tickX, 1e-9) << i;
+    EXPECT_DOUBLE_EQ(c.labelBox.height(), 12) << i;
+    EXPECT_DOUBLE_EQ(c.tickBottom - c.tickTop, 4) << i;
+    if (i > 0) {
+      EXPECT_LE(l.categories[i - 1].labelBox.right(), c.labelBox.left()) << i;
+    }
   }
-  EXPECT_EQ(labels, 10);
+  // The plot gives the upright labels their depth below the axis.
+  EXPECT_DOUBLE_EQ(l.plot.bottom(), 300 - 10 - 12 - ChartLayout::kTick - 6);
 }
 
 TEST(ChartLayout, AChartTooSmallForAPlotShowsItsTitleOnly) {

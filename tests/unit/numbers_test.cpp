@@ -208,6 +208,57 @@ TEST(TextToNumber, AcceptedForms) {
   }
 }
 
+// A text within a hair of a rounding midpoint must round from its own digits,
+// not from a nearer double that happens to lie on the midpoint.
+TEST(TextToNumber, RoundsOnceFromTheDecimalText) {
+  const ParseCase singles[] = {
+      {"16777217.0000000001", 16777218},  // just above the midpoint 2^24 + 1
+      {"16777216.9999999999", 16777216},  // just below it
+      {"16777217", 16777216},             // the midpoint itself: ties to even
+      {"16777219", 16777220},             // a midpoint whose lower neighbour is odd
+      {"8388609.4999999999", 8388609},    // just below the midpoint 2^23 + 1.5
+      {"8388609.5000000001", 8388610},
+      {"-16777217.0000000001", -16777218},
+      {"1.6777217000000000001E7", 16777218},
+      {"0.16777217000000000001E+8", 16777218},
+  };
+  for (const auto& c : singles) {
+    SCOPED_TRACE(c.text);
+    EXPECT_EQ(CSng(c.text).value(), static_cast<float>(c.value));
+  }
+  // The edges of the range: a hair below the midpoint between the largest
+  // float and 2^128 stays finite, the midpoint itself overflows; a hair
+  // below half the smallest denormal becomes 0, a hair above it does not.
+  EXPECT_EQ(CSng("3.4028235677973366E+38").value(), FLT_MAX);
+  EXPECT_EQ(ErrorOf([] { CSng("3.40282356779733661637539395458142568448E+38"); }), ErrorCode::Overflow);
+  EXPECT_EQ(ErrorOf([] { CSng("-3.5E+38"); }), ErrorCode::Overflow);
+  EXPECT_EQ(CSng("7.0064923216240853E-46").value(), 0.0f);
+  EXPECT_EQ(CSng("7.0064923216240854E-46").value(), 0x1p-149f);
+  EXPECT_EQ(CSng("-1E-50").value(), 0.0f);
+
+  const ParseCase integers[] = {
+      {"2.50000000000000001", 3},
+      {"2.49999999999999999", 2},
+      {"3.49999999999999999", 3},
+      {"-2.50000000000000001", -3},
+      {"0.50000000000000001", 1},
+      {"25E-1", 2},
+      {"2.5000000000000000000", 2},
+      {"0.25000000000000001E1", 3},
+      {"32767.4999999999999999", 32767},
+      {"1.5E0", 2},
+      {"-0.5", 0},
+      {"0.00000000000000000005E19", 0},
+      {"0.0000000000000000000001", 0},
+  };
+  for (const auto& c : integers) {
+    SCOPED_TRACE(c.text);
+    EXPECT_EQ(CInt(c.text).value(), c.value);
+  }
+  EXPECT_EQ(ErrorOf([] { CInt("32767.50000000000000001"); }), ErrorCode::Overflow);
+  EXPECT_EQ(ErrorOf([] { CInt("-32768.50000000000000001"); }), ErrorCode::Overflow);
+}
+
 TEST(TextToNumber, BadTextIsTypeMismatch) {
   const char* const cases[] = {"",      " ",     ".",   "+",     "-",     "1E",  "1e+",  "E5",
                                "1.2.3", "5-",    "1 2", "- 5",   "1,000", "12a", "0x10", "inf",
