@@ -7,14 +7,13 @@
 #include <optional>
 #include <vector>
 
+#include "qtui/theme.h"
+
 namespace orv::qt {
 
 namespace {
 
-const QColor kFrame(160, 168, 180);
-const QColor kInk(40, 44, 52);
-const QColor kGrid(226, 230, 236);
-const QColor kAxis(90, 96, 106);
+// The data's own colours; the frame, grid, axes and words follow the palette.
 const QColor kSeries(31, 97, 170);
 const QColor kSeriesFill(31, 97, 170, 60);
 
@@ -75,7 +74,12 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter p(this);
   p.setRenderHint(QPainter::Antialiasing);
   p.setRenderHint(QPainter::TextAntialiasing);
-  p.fillRect(rect(), Qt::white);
+  const ChartInk ink = ChartInkFor(palette());
+  const QColor& kFrame = ink.frame;
+  const QColor& kInk = ink.text;
+  const QColor& kGrid = ink.grid;
+  const QColor& kAxis = ink.muted;
+  p.fillRect(rect(), ink.ground);
   p.setPen(QPen(kFrame, 1));
   p.setBrush(Qt::NoBrush);
   p.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
@@ -239,7 +243,7 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
     p.setBrush(Qt::NoBrush);
     p.drawPath(path);
     p.setPen(QPen(kSeries, 1));
-    p.setBrush(Qt::white);
+    p.setBrush(ink.ground);
     const double r = std::clamp(slot * 0.28, 1.5, 3.0);
     for (std::size_t i = 0; i < n; ++i) {
       if (const auto v = ValueOf(points[i])) p.drawEllipse(QPointF(xOf(i), yOf(*v)), r, r);

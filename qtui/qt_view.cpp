@@ -27,7 +27,9 @@
 #include "qtui/chart_widget.h"
 #include "qtui/picture_widget.h"
 #include "qtui/rich_text_widget.h"
+#include "qtui/theme.h"
 #include "qtui/tree_widget.h"
+#include "qtui/window_size.h"
 #include "shell/picture.h"
 #include "shell/text.h"
 
@@ -375,6 +377,8 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
     w->installEventFilter(this);
     fw.widgets[&c] = w;
   }
+  ApplyFormGround(*window, form);
+  ScaleToFont(form, *window, *content, fw.widgets);
   if (menuBar != nullptr) layout->setMenuBar(menuBar);
   layout->addWidget(content);
   window->installEventFilter(this);
@@ -392,7 +396,7 @@ void QtView::FormLoaded(Form& form) {
     const QRect area = screen->availableGeometry();
     QPoint centre = area.center() - QPoint(fw.window->width() / 2, fw.window->height() / 2);
     if ((form.style() & (kFormMain | kFormSplash)) == 0) centre += QPoint(40, 30);
-    fw.window->move(centre);
+    PlaceOnScreen(*fw.window, centre);
   }
 }
 
@@ -521,8 +525,9 @@ void QtView::Sync(Control& c) {
       if (list->count() > 0) {
         const int row = list->sizeHintForRow(0);
         const int frame = 2 * list->frameWidth();
-        const int rowsShown = std::max(1, (c.rect().h - frame) / std::max(row, 1));
-        list->setFixedHeight(std::min(c.rect().h, rowsShown * row + frame));
+        const int height = DesignGeometry(c, *list).height();
+        const int rowsShown = std::max(1, (height - frame) / std::max(row, 1));
+        list->setFixedHeight(std::min(height, rowsShown * row + frame));
       }
     }
     list->setCurrentRow(c.ListIndex());
@@ -531,6 +536,7 @@ void QtView::Sync(Control& c) {
   } else if (auto* chart = qobject_cast<ChartWidget*>(w)) {
     chart->Show(c.chart());
   }
+  MakeReadable(*w, c);
   syncing_ = false;
 }
 
