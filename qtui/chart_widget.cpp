@@ -6,15 +6,14 @@
 #include <cmath>
 
 #include "qtui/chart_layout.h"
+#include "qtui/theme.h"
 
 namespace orv::qt {
 
 namespace {
 
-const QColor kFrame(160, 168, 180);
-const QColor kInk(40, 44, 52);
-const QColor kGrid(226, 230, 236);
-const QColor kAxis(90, 96, 106);
+// The data's own colours; the frame, grid, axes and words follow the palette
+// (ChartInk).
 const QColor kSeries(31, 97, 170);
 const QColor kSeriesFill(31, 97, 170, 60);
 
@@ -84,47 +83,49 @@ struct ChartFonts {
   QFont title, axis, tick, note;
 };
 
-void DrawTitles(QPainter& p, const ChartContent& content, const ChartLayout& l, const ChartFonts& fonts) {
+void DrawTitles(QPainter& p, const ChartContent& content, const ChartLayout& l, const ChartFonts& fonts,
+                const ChartInk& ink) {
   if (!content.title.empty()) {
     p.setFont(fonts.title);
-    p.setPen(kInk);
+    p.setPen(ink.text);
     p.drawText(l.titleBand, Qt::AlignCenter, QString::fromStdString(content.title));
   }
   if (!content.footnote.empty()) {
     p.setFont(fonts.note);
-    p.setPen(kAxis);
+    p.setPen(ink.muted);
     p.drawText(l.footnoteBand, Qt::AlignCenter, QString::fromStdString(content.footnote));
   }
 }
 
 // Grid lines, value ticks and their labels, then the two axes.
-void DrawValueAxis(QPainter& p, const ChartLayout& l, const ChartFonts& fonts) {
+void DrawValueAxis(QPainter& p, const ChartLayout& l, const ChartFonts& fonts, const ChartInk& ink) {
   p.setFont(fonts.tick);
   for (const ChartLayout::ValueTick& t : l.valueTicks) {
-    p.setPen(QPen(t.zero ? kAxis : kGrid, 1.0));
+    p.setPen(QPen(t.zero ? ink.muted : ink.grid, 1.0));
     p.drawLine(QPointF(l.plot.left(), t.y), QPointF(l.plot.right(), t.y));
-    p.setPen(QPen(kAxis, 1));
+    p.setPen(QPen(ink.muted, 1));
     p.drawLine(QPointF(l.plot.left() - ChartLayout::kTick, t.y), QPointF(l.plot.left(), t.y));
-    p.setPen(kInk);
+    p.setPen(ink.text);
     p.drawText(t.labelBox, Qt::AlignRight | Qt::AlignVCenter, t.text);
   }
-  p.setPen(QPen(kAxis, 1.2));
+  p.setPen(QPen(ink.muted, 1.2));
   p.drawLine(l.plot.bottomLeft(), l.plot.topLeft());
   p.drawLine(l.plot.bottomLeft(), l.plot.bottomRight());
 }
 
 // Category ticks, and every label: upright ones read from the bottom up and
 // end at the axis. Returns the labels as drawn.
-std::vector<ChartWidget::CategoryLabel> DrawCategoryAxis(QPainter& p, const ChartLayout& l, const ChartFonts& fonts) {
+std::vector<ChartWidget::CategoryLabel> DrawCategoryAxis(QPainter& p, const ChartLayout& l, const ChartFonts& fonts,
+                                                         const ChartInk& ink) {
   std::vector<ChartWidget::CategoryLabel> drawn;
   const QFont face = fonts.CategoryFont(l.face);
   p.setFont(face);
   for (const ChartLayout::Category& c : l.categories) {
     if (c.tick) {
-      p.setPen(QPen(kAxis, 1));
+      p.setPen(QPen(ink.muted, 1));
       p.drawLine(QPointF(c.tickX, c.tickTop), QPointF(c.tickX, c.tickBottom));
     }
-    p.setPen(kInk);
+    p.setPen(ink.text);
     if (l.face.upright) {
       p.save();
       p.translate(c.labelBox.left() + l.face.thickness, c.labelBox.bottom());
@@ -139,9 +140,10 @@ std::vector<ChartWidget::CategoryLabel> DrawCategoryAxis(QPainter& p, const Char
   return drawn;
 }
 
-void DrawAxisTitles(QPainter& p, const ChartContent& content, const ChartLayout& l, const ChartFonts& fonts) {
+void DrawAxisTitles(QPainter& p, const ChartContent& content, const ChartLayout& l, const ChartFonts& fonts,
+                    const ChartInk& ink) {
   p.setFont(fonts.axis);
-  p.setPen(kInk);
+  p.setPen(ink.text);
   if (!content.categoryTitle.empty()) {
     p.drawText(l.categoryTitleBand, Qt::AlignCenter, QString::fromStdString(content.categoryTitle));
   }
@@ -155,7 +157,7 @@ void DrawAxisTitles(QPainter& p, const ChartContent& content, const ChartLayout&
 }
 
 // The values: a line broken where a row has none, with a ring at each value.
-void DrawLine(QPainter& p, const ChartLayout& l) {
+void DrawLine(QPainter& p, const ChartLayout& l, const ChartInk& ink) {
   QPainterPath path;
   bool drawing = false;
   for (const auto& at : l.points) {
@@ -172,7 +174,7 @@ void DrawLine(QPainter& p, const ChartLayout& l) {
   p.setBrush(Qt::NoBrush);
   p.drawPath(path);
   p.setPen(QPen(kSeries, 1));
-  p.setBrush(Qt::white);
+  p.setBrush(ink.ground);
   for (const auto& at : l.points) {
     if (at) p.drawEllipse(*at, l.markerRadius, l.markerRadius);
   }
@@ -200,23 +202,24 @@ void ChartWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter p(this);
   p.setRenderHint(QPainter::Antialiasing);
   p.setRenderHint(QPainter::TextAntialiasing);
-  p.fillRect(rect(), Qt::white);
-  p.setPen(QPen(kFrame, 1));
+  const ChartInk ink = ChartInkFor(palette());
+  p.fillRect(rect(), ink.ground);
+  p.setPen(QPen(ink.frame, 1));
   p.setBrush(Qt::NoBrush);
   p.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 
   const ChartFonts fonts(font());
   const ChartLayout l = LayoutChart(content_, QRectF(rect()), fonts.Metrics());
-  DrawTitles(p, content_, l, fonts);
+  DrawTitles(p, content_, l, fonts, ink);
   labels_.clear();
   if (!l.fits) return;
-  DrawValueAxis(p, l, fonts);
-  labels_ = DrawCategoryAxis(p, l, fonts);
-  DrawAxisTitles(p, content_, l, fonts);
+  DrawValueAxis(p, l, fonts, ink);
+  labels_ = DrawCategoryAxis(p, l, fonts, ink);
+  DrawAxisTitles(p, content_, l, fonts, ink);
   p.save();
   p.setClipRect(l.plot.adjusted(-4, -4, 4, 4));
   if (l.line) {
-    DrawLine(p, l);
+    DrawLine(p, l, ink);
   } else {
     DrawBars(p, l);
   }

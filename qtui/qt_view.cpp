@@ -14,6 +14,8 @@
 #include "qtui/focus_frame.h"
 #include "qtui/header_label.h"
 #include "qtui/qt_keys.h"
+#include "qtui/theme.h"
+#include "qtui/window_size.h"
 
 namespace orv::qt {
 
@@ -60,15 +62,16 @@ FormWindow* MakeWindow(QtView& view, Form& form) {
   return window;
 }
 
-// Centres a window on the screen; screens after the first step a little down
-// and right so that the one behind stays in sight.
-void PlaceOnScreen(QWidget* window, const Form& form) {
+// Centres a window on the screen, wholly within its available area; screens
+// after the first step a little down and right so that the one behind stays
+// in sight.
+void PlaceNewWindow(QWidget* window, const Form& form) {
   window->adjustSize();
   if (QScreen* screen = QGuiApplication::primaryScreen()) {
     const QRect area = screen->availableGeometry();
     QPoint centre = area.center() - QPoint(window->width() / 2, window->height() / 2);
     if ((form.style() & (kFormMain | kFormSplash)) == 0) centre += QPoint(40, 30);
-    window->move(centre);
+    PlaceOnScreen(*window, centre);
   }
 }
 
@@ -135,6 +138,8 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
     Control* list = header != nullptr ? form.find(control->HeaderOf()) : nullptr;
     if (list != nullptr) header->SetColumns(qobject_cast<QListWidget*>(fw.shown[list]), control->HeaderColumns());
   }
+  ApplyFormGround(*window, form);
+  ScaleToFont(form, *window, *content, fw.shown);
   if (QMenuBar* bar = context.ExistingMenuBar()) layout->setMenuBar(bar);
   layout->addWidget(content);
   window->installEventFilter(this);
@@ -149,11 +154,12 @@ void QtView::FormLoaded(Form& form) {
     QObject* shown = fw.shown[c.get()];
     const QSignalBlocker block(qobject_cast<QWidget*>(shown));
     SyncAll(AdapterFor(c->kind()), *c, shown);
+    if (auto* w = qobject_cast<QWidget*>(shown)) MakeReadable(*w, *c);
   }
   syncing_ = false;
   MakeAccessible(fw.window, form, [this](const Control& c) { return Widget(c); });
   ShowKeyboardFocus(fw.window);
-  PlaceOnScreen(fw.window, form);
+  PlaceNewWindow(fw.window, form);
 }
 
 void QtView::FormUnloaded(Form& form) {
@@ -202,6 +208,7 @@ void QtView::ControlChanged(Control& control, Prop what) {
   syncing_ = true;
   const QSignalBlocker block(qobject_cast<QWidget*>(shown));  // a menu entry's action keeps its signals
   AdapterFor(control.kind()).Sync(control, shown, what);
+  if (auto* w = qobject_cast<QWidget*>(shown)) MakeReadable(*w, control);
   syncing_ = false;
 }
 

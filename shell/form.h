@@ -49,9 +49,10 @@ struct EventArgs {
 };
 
 enum FormStyle : unsigned {
-  kFormFixed = 0,   // a fixed-size window with a title bar
-  kFormSplash = 1,  // borderless, centred, above the main screen
-  kFormMain = 2,    // the main screen: menu bar, closing it ends the program
+  kFormFixed = 0,       // a fixed-size window with a title bar
+  kFormSplash = 1,      // borderless, centred, above the main screen
+  kFormMain = 2,        // the main screen: menu bar, closing it ends the program
+  kFormGrayGround = 4,  // stands on a gray ground whatever the desktop's palette
 };
 
 struct FormSpec {

@@ -205,7 +205,7 @@ std::span<const ControlSpec> PeriodicControls() {
 }  // namespace
 
 frmPeriodic::frmPeriodic(Program& program)
-    : Form(program, {"frmPeriodic", "", kFormWidth, kFormHeight}, PeriodicControls()) {
+    : Form(program, {"frmPeriodic", "", kFormWidth, kFormHeight, kFormGrayGround}, PeriodicControls()) {
   for (const auto& c : controls()) {
     if (c->kind() == Kind::Button && c->name() != "cmdCancel") c->SetBackColor(ButtonColor(c->Caption()));
   }

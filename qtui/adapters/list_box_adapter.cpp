@@ -7,6 +7,7 @@
 #include "qtui/adapters/adapters.h"
 #include "qtui/list_box.h"
 #include "qtui/qt_view.h"
+#include "qtui/window_size.h"
 
 namespace orv::qt {
 
@@ -54,8 +55,9 @@ class ListBoxKind : public ControlAdapter {
     if (list->count() > 0) {
       const int row = list->sizeHintForRow(0);
       const int frame = 2 * list->frameWidth();
-      const int rowsShown = std::max(1, (c.rect().h - frame) / std::max(row, 1));
-      list->setFixedHeight(std::min(c.rect().h, rowsShown * row + frame));
+      const int height = DesignGeometry(c, *list).height();
+      const int rowsShown = std::max(1, (height - frame) / std::max(row, 1));
+      list->setFixedHeight(std::min(height, rowsShown * row + frame));
     }
   }
 };
