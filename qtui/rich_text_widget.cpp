@@ -39,7 +39,66 @@ int ToPosition(const QString& text, int characters) {
 }
 int ToCharacters(const QString& text, int position) { return static_cast<int>(text.left(position).toUcs4().size()); }
 
+bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+// The byte after the character that starts at byte `at`.
+std::size_t NextCharacter(std::string_view text, std::size_t at) {
+  ++at;
+  while (at < text.size() && IsContinuation(text[at])) ++at;
+  return at;
+}
+
+// The document's length of a run of whole characters: one position each, two
+// for a character beyond the 16-bit range.
+int Positions(std::string_view text) {
+  int n = 0;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (!IsContinuation(c)) ++n;
+    if (byte >= 0xF0) ++n;
+  }
+  return n;
+}
+
 }  // namespace
+
+// Where the text and offsets shown and the new ones differ: the characters
+// [first, last) of the new text replace `removed` positions of the document
+// from `position`. Equal texts and offsets give nothing to do.
+RichTextWidget::Change RichTextWidget::Compare(std::string_view was, const std::vector<int>& wasOffsets,
+                                               std::string_view now, const std::vector<int>& nowOffsets) {
+  // The bytes the two share at the start, back to the start of a character.
+  std::size_t head = 0;
+  while (head < was.size() && head < now.size() && was[head] == now[head]) ++head;
+  while (head > 0 &&
+         ((head < was.size() && IsContinuation(was[head])) || (head < now.size() && IsContinuation(now[head])))) {
+    --head;
+  }
+  int first = CharCount(now.substr(0, head));
+  // Of those, the characters whose offsets agree too.
+  first = static_cast<int>(std::mismatch(nowOffsets.begin(), nowOffsets.begin() + first, wasOffsets.begin()).first -
+                           nowOffsets.begin());
+  head = ByteOffset(now, first);
+  // The same at the end, within what is left.
+  std::size_t tail = 0;
+  while (tail < was.size() - head && tail < now.size() - head &&
+         was[was.size() - 1 - tail] == now[now.size() - 1 - tail]) {
+    ++tail;
+  }
+  while (tail > 0 && (IsContinuation(was[was.size() - tail]) || IsContinuation(now[now.size() - tail]))) --tail;
+  const int tailChars = CharCount(now.substr(now.size() - tail));
+  const auto agreeing = std::mismatch(nowOffsets.rbegin(), nowOffsets.rbegin() + tailChars, wasOffsets.rbegin());
+  const int kept = static_cast<int>(agreeing.first - nowOffsets.rbegin());
+  tail = now.size() - ByteOffset(now, static_cast<int>(nowOffsets.size()) - kept);
+
+  Change change;
+  change.first = first;
+  change.last = static_cast<int>(nowOffsets.size()) - kept;
+  change.position = Positions(now.substr(0, head));
+  change.removed = Positions(was.substr(head, was.size() - head - tail));
+  change.inserted = change.last - change.first;
+  return change;
+}
 
 RichTextWidget::RichTextWidget(QWidget* parent) : QTextEdit(parent) {
   setAcceptRichText(false);
@@ -98,30 +157,47 @@ void RichTextWidget::ShowControl(const Control& c) {
   SetMultiLine((c.flags() & kMultiLine) != 0);
   showing_ = true;
   const std::string& text = c.Text();
-  const std::vector<int>& offsets = c.rich().Offsets();
-  const QString shown = QString::fromStdString(text);
-  shownText_ = shown;
-  if (toPlainText() != shown || ShownOffsets() != offsets) {
+  std::vector<int> offsets = c.rich().Offsets();
+  offsets.resize(static_cast<std::size_t>(CharCount(text)), RichText::kOnLine);
+  // The document changes only where the text or an offset did, so that one
+  // key typed into a long text costs as much as a key in a short one.
+  if (toPlainText() != shownText_) {
+    shownUtf8_.clear();
+    shownOffsets_.clear();
+    shownText_.clear();
+    QTextCursor all(document());
+    all.select(QTextCursor::Document);
+    all.removeSelectedText();
+  }
+  const Change change = Compare(shownUtf8_, shownOffsets_, text, offsets);
+  if (change.removed > 0 || change.inserted > 0) {
     QTextCursor cursor(document());
-    cursor.select(QTextCursor::Document);
+    cursor.beginEditBlock();
+    cursor.setPosition(change.position);
+    cursor.setPosition(change.position + change.removed, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
-    cursor.setCharFormat(QTextCharFormat());
     // Runs of characters with the same offset go in at once.
-    const int n = CharCount(text);
-    int from = 0;
-    while (from < n) {
-      const int offset = from < static_cast<int>(offsets.size()) ? offsets[static_cast<std::size_t>(from)] : 0;
+    const std::size_t end = ByteOffset(text, change.last);
+    std::size_t a = ByteOffset(text, change.first);
+    int from = change.first;
+    while (from < change.last) {
+      const int offset = offsets[static_cast<std::size_t>(from)];
       int to = from + 1;
-      while (to < n && (to < static_cast<int>(offsets.size()) ? offsets[static_cast<std::size_t>(to)] : 0) == offset) {
-        ++to;
-      }
+      while (to < change.last && offsets[static_cast<std::size_t>(to)] == offset) ++to;
+      std::size_t b = a;
+      for (int k = from; k < to; ++k) b = NextCharacter(text, b);
       QTextCharFormat format;
       format.setVerticalAlignment(AlignmentOf(offset));
-      const std::size_t a = ByteOffset(text, from);
-      cursor.insertText(QString::fromStdString(text.substr(a, ByteOffset(text, to) - a)), format);
+      cursor.insertText(QString::fromUtf8(text.data() + a, static_cast<qsizetype>(std::min(b, end) - a)), format);
+      a = b;
       from = to;
     }
+    cursor.endEditBlock();
+    shownUtf8_ = text;
+    shownOffsets_ = std::move(offsets);
+    shownText_ = QString::fromStdString(text);
   }
+  const QString& shown = shownText_;
   const int start = ToPosition(shown, c.SelStart());
   const int end = ToPosition(shown, c.SelStart() + c.SelLength());
   QTextCursor caret = textCursor();

@@ -7,6 +7,8 @@
 
 #include <QTextEdit>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace orv {
@@ -48,9 +50,22 @@ class RichTextWidget : public QTextEdit {
   // Sets the box up for one line or for several, as the control says.
   void SetMultiLine(bool on);
 
+  // The part of the document to replace for a new text and offsets.
+  struct Change {
+    int first = 0, last = 0;        // the new characters that go in
+    int position = 0, removed = 0;  // the document's positions they replace
+    int inserted = 0;
+  };
+  static Change Compare(std::string_view was, const std::vector<int>& wasOffsets, std::string_view now,
+                        const std::vector<int>& nowOffsets);
+
   bool showing_ = false;
   bool multiLine_ = false;
+  // What the document shows: its text, as UTF-16 and as UTF-8, and each
+  // character's offset.
   QString shownText_;
+  std::string shownUtf8_;
+  std::vector<int> shownOffsets_;
 };
 
 }  // namespace orv::qt
