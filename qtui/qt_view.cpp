@@ -350,6 +350,9 @@ QWidget* QtView::Build(Form& form, FormWidgets& fw) {
         auto* rich = new RichTextWidget(parent);
         Control* target = &c;
         rich->onEdited = [this, target](const QString& t) { Edited(*target, t); };
+        rich->resync = [this, rich] {
+          if (Control* control = ControlOf(rich)) rich->ShowControl(*control);
+        };
         rich->onCaret = [this, target](int start, int length) {
           if (!syncing_ && program_ != nullptr) program_->UserCaret(*target, start, length);
         };

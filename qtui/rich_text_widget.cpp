@@ -6,6 +6,7 @@
 #include <QTextDocument>
 #include <QTextFragment>
 #include <QTextFrame>
+#include <QTimer>
 #include <algorithm>
 #include <string>
 
@@ -96,7 +97,7 @@ RichTextWidget::Change RichTextWidget::Compare(std::string_view was, const std::
   change.last = static_cast<int>(nowOffsets.size()) - kept;
   change.position = Positions(now.substr(0, head));
   change.removed = Positions(was.substr(head, was.size() - head - tail));
-  change.inserted = change.last - change.first;
+  change.removedCharacters = CharCount(was.substr(head, was.size() - head - tail));
   return change;
 }
 
@@ -157,8 +158,14 @@ void RichTextWidget::ShowControl(const Control& c) {
   SetMultiLine((c.flags() & kMultiLine) != 0);
   showing_ = true;
   const std::string& text = c.Text();
-  std::vector<int> offsets = c.rich().Offsets();
-  offsets.resize(static_cast<std::size_t>(CharCount(text)), RichText::kOnLine);
+  // One offset a character; a short list is read as characters on the line.
+  const std::size_t count = static_cast<std::size_t>(CharCount(text));
+  std::vector<int> padded;
+  if (c.rich().Offsets().size() != count) {
+    padded = c.rich().Offsets();
+    padded.resize(count, RichText::kOnLine);
+  }
+  const std::vector<int>& offsets = padded.size() == count ? padded : c.rich().Offsets();
   // The document changes only where the text or an offset did, so that one
   // key typed into a long text costs as much as a key in a short one.
   if (toPlainText() != shownText_) {
@@ -169,33 +176,57 @@ void RichTextWidget::ShowControl(const Control& c) {
     all.select(QTextCursor::Document);
     all.removeSelectedText();
   }
-  const Change change = Compare(shownUtf8_, shownOffsets_, text, offsets);
-  if (change.removed > 0 || change.inserted > 0) {
+  Change change = Compare(shownUtf8_, shownOffsets_, text, offsets);
+  // A long text goes in a part at a time, one part each turn of the event
+  // loop, so that a help file of any size shows its start at once and the
+  // window keeps answering while the rest follows.
+  const bool more = change.last - change.first > kCharactersPerTurn;
+  if (more) change.last = change.first + kCharactersPerTurn;
+  if (change.removed > 0 || change.first < change.last) {
     QTextCursor cursor(document());
     cursor.beginEditBlock();
     cursor.setPosition(change.position);
     cursor.setPosition(change.position + change.removed, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
     // Runs of characters with the same offset go in at once.
-    const std::size_t end = ByteOffset(text, change.last);
-    std::size_t a = ByteOffset(text, change.first);
-    int from = change.first;
-    while (from < change.last) {
-      const int offset = offsets[static_cast<std::size_t>(from)];
-      int to = from + 1;
-      while (to < change.last && offsets[static_cast<std::size_t>(to)] == offset) ++to;
+    const std::size_t from = ByteOffset(text, change.first);
+    const std::size_t to = ByteOffset(text, change.last);
+    std::size_t a = from;
+    for (int k = change.first; k < change.last;) {
+      const int offset = offsets[static_cast<std::size_t>(k)];
+      int next = k + 1;
+      while (next < change.last && offsets[static_cast<std::size_t>(next)] == offset) ++next;
       std::size_t b = a;
-      for (int k = from; k < to; ++k) b = NextCharacter(text, b);
+      for (int i = k; i < next; ++i) b = NextCharacter(text, b);
       QTextCharFormat format;
       format.setVerticalAlignment(AlignmentOf(offset));
-      cursor.insertText(QString::fromUtf8(text.data() + a, static_cast<qsizetype>(std::min(b, end) - a)), format);
+      cursor.insertText(QString::fromUtf8(text.data() + a, static_cast<qsizetype>(std::min(b, to) - a)), format);
       a = b;
-      from = to;
+      k = next;
     }
     cursor.endEditBlock();
-    shownUtf8_ = text;
-    shownOffsets_ = std::move(offsets);
-    shownText_ = QString::fromStdString(text);
+    // What the document now holds: the old text's ends around the new part.
+    if (more) {
+      const std::size_t head = ByteOffset(shownUtf8_, change.first);
+      const std::size_t tail = shownUtf8_.size() - ByteOffset(shownUtf8_, change.first + change.removedCharacters);
+      shownUtf8_ =
+          shownUtf8_.substr(0, head) + text.substr(from, to - from) + shownUtf8_.substr(shownUtf8_.size() - tail);
+      std::vector<int> held(shownOffsets_.begin(), shownOffsets_.begin() + change.first);
+      held.insert(held.end(), offsets.begin() + change.first, offsets.begin() + change.last);
+      held.insert(held.end(),
+                  shownOffsets_.end() -
+                      static_cast<std::ptrdiff_t>(shownOffsets_.size() - change.first - change.removedCharacters),
+                  shownOffsets_.end());
+      shownOffsets_ = std::move(held);
+      shownText_ = QString::fromStdString(shownUtf8_);
+      QTimer::singleShot(0, this, [this] {
+        if (resync) resync();
+      });
+    } else {
+      shownUtf8_ = text;
+      shownOffsets_ = offsets;
+      shownText_ = QString::fromStdString(text);
+    }
   }
   const QString& shown = shownText_;
   const int start = ToPosition(shown, c.SelStart());

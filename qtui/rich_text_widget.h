@@ -36,6 +36,12 @@ class RichTextWidget : public QTextEdit {
   // user moved the caret.
   std::function<void(const QString&)> onEdited;
   std::function<void(int start, int length)> onCaret;
+  // Called to show the control again, when a long text went in only in part.
+  std::function<void()> resync;
+
+  // The most characters that go into the document in one turn of the event
+  // loop.
+  static constexpr int kCharactersPerTurn = 1 << 20;
 
  protected:
   void resizeEvent(QResizeEvent* e) override;
@@ -54,7 +60,7 @@ class RichTextWidget : public QTextEdit {
   struct Change {
     int first = 0, last = 0;        // the new characters that go in
     int position = 0, removed = 0;  // the document's positions they replace
-    int inserted = 0;
+    int removedCharacters = 0;      // the same, in characters of the old text
   };
   static Change Compare(std::string_view was, const std::vector<int>& wasOffsets, std::string_view now,
                         const std::vector<int>& nowOffsets);

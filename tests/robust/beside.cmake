@@ -3,7 +3,7 @@
 # would hold them:
 #   cmake -DRUNNER=... -DBIN=... -DDIR=... -DCASE=zero|text|longhelp -DSCENARIO=... -DQT=0|1 -P beside.cmake
 # zero: OrvantaData.db of no bytes; text: a text file under that name;
-# longhelp: the real database and a ReadMe.txt of 1 MB.
+# longhelp: the real database and a ReadMe.txt of about 1 MB.
 file(REMOVE_RECURSE "${DIR}")
 file(MAKE_DIRECTORY "${DIR}")
 # The runner finds its files beside the path it was started by, so a hard
@@ -20,7 +20,7 @@ elseif(CASE STREQUAL "text")
 elseif(CASE STREQUAL "longhelp")
   file(COPY_FILE "${BIN}/OrvantaData.db" "${DIR}/OrvantaData.db")
   string(REPEAT "Help text line for a long topic. Help text line for a long topic.\n" 16 block)
-  string(REPEAT "${block}" 1000 text)
+  string(REPEAT "${block}" 950 text)
   file(WRITE "${DIR}/ReadMe.txt" "${text}")
 else()
   message(FATAL_ERROR "unknown case ${CASE}")
