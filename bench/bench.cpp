@@ -4,6 +4,9 @@
 //                           resident memory at that moment.
 //   orvanta-bench bare      the same for a bare Qt Widgets window.
 //   orvanta-bench sigfig N  times N presses of frmSigfig's Ok, headless.
+//   orvanta-bench group     times Enter on frmWeights with "(OH)2(SO4)", the
+//                           group that repeats until the weight stack
+//                           overflows, headless, over the database beside it.
 
 #include <QApplication>
 #include <QTimer>
@@ -11,6 +14,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <string>
 
@@ -93,12 +97,30 @@ int Sigfig(long presses) {
   return 0;
 }
 
+int Group(const char* argv0) {
+  orv::test::FakeServices fakes;
+  const std::string dir = std::filesystem::canonical(argv0).parent_path().string();
+  orv::Program program(orv::AllScreens(), fakes.services(), dir);
+  program.Start();
+  program.UserAction([&] { program.Show("frmWeights"); });
+  orv::Form* form = program.Find("frmWeights");
+  orv::Control& box = form->ctl("RichTextBox1");
+  for (const char c : std::string("(OH)2(SO4)")) program.UserKey(*form, &box, {orv::KeyCodeOfChar(c), c, 0});
+  const auto start = std::chrono::steady_clock::now();
+  program.UserKey(*form, &box, {orv::kKeyReturn, '\r', 0});
+  const auto end = std::chrono::steady_clock::now();
+  std::printf("group_ms %.1f message %s\n", std::chrono::duration<double, std::milli>(end - start).count(),
+              fakes.messages.boxes.empty() ? "" : fakes.messages.boxes.back().text.c_str());
+  return 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   if (argc >= 2 && std::strcmp(argv[1], "startup") == 0) return Startup(argc, argv, false);
   if (argc >= 2 && std::strcmp(argv[1], "bare") == 0) return Startup(argc, argv, true);
   if (argc >= 2 && std::strcmp(argv[1], "sigfig") == 0) return Sigfig(argc >= 3 ? std::stol(argv[2]) : 100000);
-  std::fprintf(stderr, "usage: orvanta-bench startup|bare|sigfig [N]\n");
+  if (argc >= 2 && std::strcmp(argv[1], "group") == 0) return Group("/proc/self/exe");
+  std::fprintf(stderr, "usage: orvanta-bench startup|bare|sigfig [N]|group\n");
   return 2;
 }

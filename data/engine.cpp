@@ -2,8 +2,10 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <fstream>
 #include <string_view>
 #include <system_error>
 
@@ -70,6 +72,38 @@ bool SameName(std::string_view a, std::string_view b) {
   return true;
 }
 
+// Whether the file starts with the header of an SQLite database.
+bool HasDatabaseHeader(const std::string& path) {
+  static constexpr char kHeader[] = "SQLite format 3";  // with its terminating zero, 16 bytes
+  char start[sizeof kHeader] = {};
+  std::ifstream in(path, std::ios::binary);
+  return in.read(start, sizeof start) && std::equal(start, start + sizeof start, kHeader);
+}
+
+// The file's URI for SQLite, asking it to take the file as one that never
+// changes. Every byte of the absolute path but the plainest is escaped, so
+// that no name is read as a query, a fragment or an authority.
+std::string ImmutableUri(const std::string& path) {
+  std::error_code error;
+  std::filesystem::path absolute = std::filesystem::absolute(path, error);
+  if (error) absolute = path;
+  // An absolute path starts with "/", so the authority before it stays empty.
+  std::string uri = "file://";
+  static constexpr char kHex[] = "0123456789ABCDEF";
+  for (const char c : absolute.string()) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool plain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    if (plain || c == '/' || c == '.' || c == '-' || c == '_' || c == '~') {
+      uri += c;
+    } else {
+      uri += '%';
+      uri += kHex[byte >> 4];
+      uri += kHex[byte & 15];
+    }
+  }
+  return uri + "?immutable=1";
+}
+
 // Owns a prepared statement for the length of one query.
 struct Statement {
   sqlite3_stmt* handle = nullptr;
@@ -98,12 +132,15 @@ std::unique_ptr<Database> Database::Open(const std::string& path) {
   if (path.empty() || !std::filesystem::is_regular_file(path, error)) {
     EngineError("Could not find file '" + path + "'.");
   }
-  // Keep names such as ":memory:" or "file:x" from being read as special.
-  std::string name = path;
-  if (StartsWith(name, ":") || StartsWith(name, "file:")) name = "./" + name;
+  // SQLite takes a file of no bytes for an empty database; a database file
+  // always starts with the format's header.
+  if (!HasDatabaseHeader(path)) EngineError("Unrecognized database format '" + path + "'.");
 
+  // Opened as immutable, SQLite reads the file and nothing else: it takes no
+  // locks and never creates a journal, nor the -wal and -shm files of a
+  // database in WAL mode.
   sqlite3* db = nullptr;
-  const int opened = sqlite3_open_v2(name.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
+  const int opened = sqlite3_open_v2(ImmutableUri(path).c_str(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr);
   if (opened != SQLITE_OK) {
     sqlite3_close(db);
     EngineError("Could not find file '" + path + "'.");
@@ -111,18 +148,41 @@ std::unique_ptr<Database> Database::Open(const std::string& path) {
   std::unique_ptr<Database> database(new Database(db, path));
 
   // SQLite reads the file lazily; read its schema now so that a file that is
-  // no database fails here rather than at the first query.
+  // no database fails here rather than at the first query. Temporary tables,
+  // if SQLite ever needed one, stay in memory.
   Statement probe;
-  if (sqlite3_prepare_v2(db, "SELECT count(*) FROM sqlite_master", -1, &probe.handle, nullptr) != SQLITE_OK ||
-      sqlite3_step(probe.handle) != SQLITE_ROW) {
+  if (sqlite3_exec(db, "PRAGMA temp_store = MEMORY", nullptr, nullptr, nullptr) != SQLITE_OK ||
+      sqlite3_prepare_v2(db, "SELECT name FROM sqlite_master WHERE type = 'table'", -1, &probe.handle, nullptr) !=
+          SQLITE_OK) {
     EngineError("Unrecognized database format '" + path + "'.");
   }
+  for (;;) {
+    const int stepped = sqlite3_step(probe.handle);
+    if (stepped == SQLITE_DONE) break;
+    if (stepped != SQLITE_ROW) EngineError("Unrecognized database format '" + path + "'.");
+    database->tables_.emplace_back(reinterpret_cast<const char*>(sqlite3_column_text(probe.handle, 0)));
+  }
   return database;
+}
+
+bool Database::HasTable(std::string_view name) const {
+  for (const std::string& table : tables_) {
+    if (SameName(table, name)) return true;
+  }
+  return false;
 }
 
 Database::~Database() { sqlite3_close(db_); }
 
 std::unique_ptr<Recordset> Database::OpenRecordset(const std::string& sql) {
+  return std::unique_ptr<Recordset>(new Recordset(Run(sql)));
+}
+
+std::shared_ptr<const Database::Rows> Database::Run(const std::string& sql) {
+  // The file never changes while it is open, so the same text gives the same
+  // rows; only texts that ran without error are kept.
+  if (const auto kept = results_.find(sql); kept != results_.end()) return kept->second;
+
   Statement statement;
   const char* tail = nullptr;
   const int prepared = sqlite3_prepare_v2(db_, sql.c_str(), static_cast<int>(sql.size()) + 1, &statement.handle, &tail);
@@ -154,7 +214,9 @@ std::unique_ptr<Recordset> Database::OpenRecordset(const std::string& sql) {
     for (int c = 0; c < columns; ++c) row.push_back(ColumnValue(statement.handle, c));
     rows.push_back(std::move(row));
   }
-  return std::unique_ptr<Recordset>(new Recordset(std::move(names), std::move(rows)));
+  auto result = std::make_shared<const Rows>(Rows{std::move(names), std::move(rows)});
+  results_.emplace(sql, result);
+  return result;
 }
 
 // ---------------------------------------------------------------------------
@@ -164,39 +226,45 @@ void Recordset::CheckOpen() const {
   if (!open_) EngineError("Object invalid or no longer set.");
 }
 
+const std::vector<std::string>& Recordset::FieldNames() const {
+  static const std::vector<std::string> kNone;
+  return rows_ ? rows_->names : kNone;
+}
+
 void Recordset::MoveFirst() {
   CheckOpen();
-  if (rows_.empty()) Raise(ErrorCode::NoCurrentRecord);
+  if (RowCount() == 0) Raise(ErrorCode::NoCurrentRecord);
   position_ = 0;
 }
 
 bool Recordset::AtEnd() const {
   CheckOpen();
-  return position_ >= rows_.size();
+  return position_ >= RowCount();
 }
 
-Variant Recordset::Field(const std::string& name) const {
+const Variant& Recordset::Field(std::string_view name) const {
   CheckOpen();
-  for (std::size_t c = 0; c < names_.size(); ++c) {
-    if (SameName(names_[c], name)) {
-      if (position_ >= rows_.size()) Raise(ErrorCode::NoCurrentRecord);
-      return rows_[position_][c];
-    }
+  const std::vector<std::string>& names = FieldNames();
+  if (name.empty() || name != lastName_) {
+    std::size_t c = 0;
+    while (c < names.size() && !SameName(names[c], name)) ++c;
+    if (c == names.size()) EngineError("Item not found in this collection.");
+    lastName_ = name;
+    lastColumn_ = c;
   }
-  EngineError("Item not found in this collection.");
+  if (position_ >= RowCount()) Raise(ErrorCode::NoCurrentRecord);
+  return rows_->rows[position_][lastColumn_];
 }
 
 void Recordset::MoveNext() {
   CheckOpen();
-  if (position_ >= rows_.size()) Raise(ErrorCode::NoCurrentRecord);
+  if (position_ >= RowCount()) Raise(ErrorCode::NoCurrentRecord);
   ++position_;
 }
 
 void Recordset::Close() {
   open_ = false;
-  rows_.clear();
-  rows_.shrink_to_fit();
-  names_.clear();
+  rows_.reset();
   position_ = 0;
 }
 

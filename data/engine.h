@@ -9,12 +9,19 @@
 // without ORDER BY, and the database has no indexes, so that order is the
 // order in which the rows were inserted.
 //
+// The file is opened as one that never changes, so that the engine writes
+// nothing beside it, and the rows of each query text are kept after its first
+// run: a query run again gives the same rows without reading the file again.
+//
 // Every failure is an orv::RuntimeError: ErrorCode::NoCurrentRecord for a move
 // or a read without a current record, ErrorCode::Engine with the engine's own
 // words for everything else (no such file, table or field, bad SQL).
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "shell/variant.h"
@@ -41,7 +48,8 @@ class Database {
  public:
   // Opens an existing database file read-only. A missing file is never
   // created: the open fails with "Could not find file '<path>'.", and a file
-  // that is no database fails with "Unrecognized database format '<path>'.".
+  // that is no database (a file of no bytes too) fails with "Unrecognized
+  // database format '<path>'.".
   static std::unique_ptr<Database> Open(const std::string& path);
 
   ~Database();
@@ -55,11 +63,33 @@ class Database {
 
   const std::string& path() const { return path_; }
 
+  // How many queries went to the file; the others were answered from the
+  // rows kept in memory.
+  std::size_t FileQueries() const { return results_.size(); }
+
+  // Answers that readers work out from the rows of their queries, kept under
+  // keys of their choosing: the rows never change, so neither do these.
+  std::unordered_map<std::string, std::optional<Variant>>& Answers() { return answers_; }
+
+  // Whether the database holds a table of that name (capitals don't count).
+  bool HasTable(std::string_view name) const;
+
+  // The field names and rows of one query.
+  struct Rows {
+    std::vector<std::string> names;
+    std::vector<std::vector<Variant>> rows;
+  };
+
  private:
   Database(sqlite3* db, std::string path) : db_(db), path_(std::move(path)) {}
+  std::shared_ptr<const Rows> Run(const std::string& sql);
 
   sqlite3* db_;
   std::string path_;
+  std::vector<std::string> tables_;
+  // The rows of every query text run so far.
+  std::unordered_map<std::string, std::shared_ptr<const Rows>> results_;
+  std::unordered_map<std::string, std::optional<Variant>> answers_;
 };
 
 class Recordset {
@@ -73,7 +103,7 @@ class Recordset {
   // double for a number, a text for a text. Field names match regardless of
   // case. At the end: "No current record."; an unknown name:
   // "Item not found in this collection.".
-  Variant Field(const std::string& name) const;
+  const Variant& Field(std::string_view name) const;
   // Moves to the next row; from the last row this reaches the end. Already at
   // the end: "No current record.".
   void MoveNext();
@@ -83,17 +113,20 @@ class Recordset {
 
   bool IsOpen() const { return open_; }
   // The number of fields in each row and their names, in query order.
-  const std::vector<std::string>& FieldNames() const { return names_; }
+  const std::vector<std::string>& FieldNames() const;
 
  private:
   friend class Database;
-  Recordset(std::vector<std::string> names, std::vector<std::vector<Variant>> rows)
-      : names_(std::move(names)), rows_(std::move(rows)) {}
+  explicit Recordset(std::shared_ptr<const Database::Rows> rows) : rows_(std::move(rows)) {}
   void CheckOpen() const;
+  std::size_t RowCount() const { return rows_ ? rows_->rows.size() : 0; }
 
-  std::vector<std::string> names_;
-  std::vector<std::vector<Variant>> rows_;
+  std::shared_ptr<const Database::Rows> rows_;  // shared with the database's store of results
   std::size_t position_ = 0;
+  // The field last asked for by name and its column: a walk asks for the
+  // same field at every row.
+  mutable std::string lastName_;
+  mutable std::size_t lastColumn_ = 0;
   bool open_ = true;
 };
 

@@ -1,5 +1,6 @@
 #include "data/store.h"
 
+#include <cstring>
 #include <functional>
 
 #include "shell/errors.h"
@@ -19,6 +20,17 @@ Variant& ElementsTable::At(int row, int column) {
 
 const Variant& ElementsTable::At(int row, int column) const {
   return const_cast<ElementsTable&>(*this).At(row, column);
+}
+
+// ---------------------------------------------------------------------------
+// The program's database
+
+std::unique_ptr<Database> OpenProgramDatabase(const Workspace& workspace, const std::string& path) {
+  std::unique_ptr<Database> database = workspace.OpenDatabase(path);
+  for (const std::string_view table : kProgramTables) {
+    if (database->HasTable(table)) return database;
+  }
+  throw RuntimeError(ErrorCode::Engine, "Unrecognized database format '" + path + "'.");
 }
 
 // ---------------------------------------------------------------------------
@@ -57,12 +69,20 @@ void FillColumns(DataStore& store, std::string sql, bool weights) {
 }
 
 // The walk of the two look-ups: from the first row until a row matches or the
-// rows end, then close. Gives the wanted field of the matching row.
-std::optional<Variant> Walk(DataStore& store, std::string sql, const std::string& wanted,
+// rows end, then close. Gives the wanted field of the matching row. A walk
+// that went through once is not walked again: its answer is kept under `key`
+// with the database, and the record set is opened and closed all the same.
+std::optional<Variant> Walk(DataStore& store, std::string sql, const std::string& wanted, const std::string& key,
                             const std::function<bool(const Recordset&)>& matches) {
   OpenRecordset(store, std::move(sql));
   Recordset& records = *store.gRecordset;
   records.MoveFirst();
+  auto& answers = store.gDatabase->Answers();
+  const std::string answerKey = store.gSql + '\n' + wanted + '\n' + key;
+  if (const auto known = answers.find(answerKey); known != answers.end()) {
+    records.Close();
+    return known->second;
+  }
   std::optional<Variant> found;
   while (!records.AtEnd()) {
     if (matches(records)) {
@@ -72,6 +92,7 @@ std::optional<Variant> Walk(DataStore& store, std::string sql, const std::string
     records.MoveNext();
   }
   records.Close();
+  answers.emplace(answerKey, found);
   return found;
 }
 
@@ -85,26 +106,31 @@ void FillElementSymbols(DataStore& store) { FillColumns(store, "SELECT Symbol FR
 // Look-ups by walking
 
 std::optional<Variant> FindMolecularWeight(DataStore& store, std::string_view substance) {
-  return Walk(store, "SELECT * FROM MolecularWeights", "Weight", [substance](const Recordset& records) {
-    const Variant field = records.Field("Substance");
-    // A null field equals nothing; a text field compares as text.
-    if (field.IsNull()) return false;
-    return (field.IsText() ? field.Text() : Str(field)) == substance;
-  });
+  return Walk(store, "SELECT * FROM MolecularWeights", "Weight", "Substance=" + std::string(substance),
+              [substance](const Recordset& records) {
+                const Variant& field = records.Field("Substance");
+                // A null field equals nothing; a text field compares as text.
+                if (field.IsText()) return field.Text() == substance;
+                return !field.IsNull() && Str(field) == substance;
+              });
 }
 
 std::optional<Variant> FindVaporPressureByText(DataStore& store, std::string_view temperature) {
-  return Walk(store, "SELECT * FROM VaporPressure", "Pressure", [temperature](const Recordset& records) {
-    const Variant field = records.Field("Temperature");
-    return !field.IsNull() && Str(field) == temperature;
-  });
+  return Walk(store, "SELECT * FROM VaporPressure", "Pressure", "Temperature as text=" + std::string(temperature),
+              [temperature](const Recordset& records) {
+                const Variant& field = records.Field("Temperature");
+                return !field.IsNull() && Str(field) == temperature;
+              });
 }
 
 std::optional<Variant> FindVaporPressureByCelsius(DataStore& store, double celsius) {
-  return Walk(store, "SELECT * FROM VaporPressure", "Pressure", [celsius](const Recordset& records) {
-    const Variant field = records.Field("Temperature");
-    return field.IsNumber() && field.Number() == celsius;
-  });
+  char bits[sizeof celsius];
+  std::memcpy(bits, &celsius, sizeof celsius);
+  return Walk(store, "SELECT * FROM VaporPressure", "Pressure", "Temperature=" + std::string(bits, sizeof bits),
+              [celsius](const Recordset& records) {
+                const Variant& field = records.Field("Temperature");
+                return field.IsNumber() && field.Number() == celsius;
+              });
 }
 
 }  // namespace orv::data

@@ -22,6 +22,20 @@ namespace orv::data {
 // The name of the database file, which lies beside the executable.
 inline constexpr std::string_view kDatabaseFileName = "OrvantaData.db";
 
+// The tables that the program reads.
+inline constexpr std::string_view kProgramTables[] = {
+    "GeneralInfo",         "MolecularWeights",    "Temperatures",      "Constants",     "SpecificHeats",
+    "SolubilityConstants", "IonizationEnergy",    "ThermodynamicData", "VaporPressure", "StandardReductions",
+    "Enthalpies",          "Electronegativities", "AtomicRadii",       "Affinities",    "Bonds",
+    "Character",           "GasDensity",          "WaterDensity",      "HalfLives"};
+
+// Opens the program's database through the workspace. A database that holds
+// none of the program's tables (an empty one, say) is taken for no database
+// at all: it fails as a file of another kind does, with "Unrecognized
+// database format '<path>'.". One that holds some of them opens, and a reader
+// of a missing one meets the engine's words for it.
+std::unique_ptr<Database> OpenProgramDatabase(const Workspace& workspace, const std::string& path);
+
 // 109 rows (1 to 109) by 2 columns (0 and 1) of any-typed values: column 0 an
 // element's symbol, column 1 its atomic weight. Indexed by row position in
 // GeneralInfo, not by atomic number. Every cell starts Empty. A row outside

@@ -1,11 +1,13 @@
 #include "qtui/rich_text_widget.h"
 
 #include <QEvent>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextFragment>
 #include <QTextFrame>
+#include <QTimer>
 #include <algorithm>
 #include <string>
 
@@ -39,7 +41,66 @@ int ToPosition(const QString& text, int characters) {
 }
 int ToCharacters(const QString& text, int position) { return static_cast<int>(text.left(position).toUcs4().size()); }
 
+bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+// The byte after the character that starts at byte `at`.
+std::size_t NextCharacter(std::string_view text, std::size_t at) {
+  ++at;
+  while (at < text.size() && IsContinuation(text[at])) ++at;
+  return at;
+}
+
+// The document's length of a run of whole characters: one position each, two
+// for a character beyond the 16-bit range.
+int Positions(std::string_view text) {
+  int n = 0;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (!IsContinuation(c)) ++n;
+    if (byte >= 0xF0) ++n;
+  }
+  return n;
+}
+
 }  // namespace
+
+// Where the text and offsets shown and the new ones differ: the characters
+// [first, last) of the new text replace `removed` positions of the document
+// from `position`. Equal texts and offsets give nothing to do.
+RichTextWidget::Change RichTextWidget::Compare(std::string_view was, const std::vector<int>& wasOffsets,
+                                               std::string_view now, const std::vector<int>& nowOffsets) {
+  // The bytes the two share at the start, back to the start of a character.
+  std::size_t head = 0;
+  while (head < was.size() && head < now.size() && was[head] == now[head]) ++head;
+  while (head > 0 &&
+         ((head < was.size() && IsContinuation(was[head])) || (head < now.size() && IsContinuation(now[head])))) {
+    --head;
+  }
+  int first = CharCount(now.substr(0, head));
+  // Of those, the characters whose offsets agree too.
+  first = static_cast<int>(std::mismatch(nowOffsets.begin(), nowOffsets.begin() + first, wasOffsets.begin()).first -
+                           nowOffsets.begin());
+  head = ByteOffset(now, first);
+  // The same at the end, within what is left.
+  std::size_t tail = 0;
+  while (tail < was.size() - head && tail < now.size() - head &&
+         was[was.size() - 1 - tail] == now[now.size() - 1 - tail]) {
+    ++tail;
+  }
+  while (tail > 0 && (IsContinuation(was[was.size() - tail]) || IsContinuation(now[now.size() - tail]))) --tail;
+  const int tailChars = CharCount(now.substr(now.size() - tail));
+  const auto agreeing = std::mismatch(nowOffsets.rbegin(), nowOffsets.rbegin() + tailChars, wasOffsets.rbegin());
+  const int kept = static_cast<int>(agreeing.first - nowOffsets.rbegin());
+  tail = now.size() - ByteOffset(now, static_cast<int>(nowOffsets.size()) - kept);
+
+  Change change;
+  change.first = first;
+  change.last = static_cast<int>(nowOffsets.size()) - kept;
+  change.position = Positions(now.substr(0, head));
+  change.removed = Positions(was.substr(head, was.size() - head - tail));
+  change.removedCharacters = CharCount(was.substr(head, was.size() - head - tail));
+  return change;
+}
 
 RichTextWidget::RichTextWidget(QWidget* parent) : QTextEdit(parent) {
   setAcceptRichText(false);
@@ -98,30 +159,77 @@ void RichTextWidget::ShowControl(const Control& c) {
   SetMultiLine((c.flags() & kMultiLine) != 0);
   showing_ = true;
   const std::string& text = c.Text();
-  const std::vector<int>& offsets = c.rich().Offsets();
-  const QString shown = QString::fromStdString(text);
-  shownText_ = shown;
-  if (toPlainText() != shown || ShownOffsets() != offsets) {
+  // One offset a character; a short list is read as characters on the line.
+  const std::size_t count = static_cast<std::size_t>(CharCount(text));
+  std::vector<int> padded;
+  if (c.rich().Offsets().size() != count) {
+    padded = c.rich().Offsets();
+    padded.resize(count, RichText::kOnLine);
+  }
+  const std::vector<int>& offsets = padded.size() == count ? padded : c.rich().Offsets();
+  // The document changes only where the text or an offset did, so that one
+  // key typed into a long text costs as much as a key in a short one.
+  if (toPlainText() != shownText_) {
+    shownUtf8_.clear();
+    shownOffsets_.clear();
+    shownText_.clear();
+    QTextCursor all(document());
+    all.select(QTextCursor::Document);
+    all.removeSelectedText();
+  }
+  Change change = Compare(shownUtf8_, shownOffsets_, text, offsets);
+  // A long text goes in a part at a time, one part each turn of the event
+  // loop, so that a help file of any size shows its start at once and the
+  // window keeps answering while the rest follows.
+  const bool more = change.last - change.first > kCharactersPerTurn;
+  if (more) change.last = change.first + kCharactersPerTurn;
+  if (change.removed > 0 || change.first < change.last) {
     QTextCursor cursor(document());
-    cursor.select(QTextCursor::Document);
+    cursor.beginEditBlock();
+    cursor.setPosition(change.position);
+    cursor.setPosition(change.position + change.removed, QTextCursor::KeepAnchor);
     cursor.removeSelectedText();
-    cursor.setCharFormat(QTextCharFormat());
     // Runs of characters with the same offset go in at once.
-    const int n = CharCount(text);
-    int from = 0;
-    while (from < n) {
-      const int offset = from < static_cast<int>(offsets.size()) ? offsets[static_cast<std::size_t>(from)] : 0;
-      int to = from + 1;
-      while (to < n && (to < static_cast<int>(offsets.size()) ? offsets[static_cast<std::size_t>(to)] : 0) == offset) {
-        ++to;
-      }
+    const std::size_t from = ByteOffset(text, change.first);
+    const std::size_t to = ByteOffset(text, change.last);
+    std::size_t a = from;
+    for (int k = change.first; k < change.last;) {
+      const int offset = offsets[static_cast<std::size_t>(k)];
+      int next = k + 1;
+      while (next < change.last && offsets[static_cast<std::size_t>(next)] == offset) ++next;
+      std::size_t b = a;
+      for (int i = k; i < next; ++i) b = NextCharacter(text, b);
       QTextCharFormat format;
       format.setVerticalAlignment(AlignmentOf(offset));
-      const std::size_t a = ByteOffset(text, from);
-      cursor.insertText(QString::fromStdString(text.substr(a, ByteOffset(text, to) - a)), format);
-      from = to;
+      cursor.insertText(QString::fromUtf8(text.data() + a, static_cast<qsizetype>(std::min(b, to) - a)), format);
+      a = b;
+      k = next;
+    }
+    cursor.endEditBlock();
+    // What the document now holds: the old text's ends around the new part.
+    if (more) {
+      const std::size_t head = ByteOffset(shownUtf8_, change.first);
+      const std::size_t tail = shownUtf8_.size() - ByteOffset(shownUtf8_, change.first + change.removedCharacters);
+      shownUtf8_ =
+          shownUtf8_.substr(0, head) + text.substr(from, to - from) + shownUtf8_.substr(shownUtf8_.size() - tail);
+      std::vector<int> held(shownOffsets_.begin(), shownOffsets_.begin() + change.first);
+      held.insert(held.end(), offsets.begin() + change.first, offsets.begin() + change.last);
+      held.insert(held.end(),
+                  shownOffsets_.end() -
+                      static_cast<std::ptrdiff_t>(shownOffsets_.size() - change.first - change.removedCharacters),
+                  shownOffsets_.end());
+      shownOffsets_ = std::move(held);
+      shownText_ = QString::fromStdString(shownUtf8_);
+      QTimer::singleShot(0, this, [this] {
+        if (resync) resync();
+      });
+    } else {
+      shownUtf8_ = text;
+      shownOffsets_ = offsets;
+      shownText_ = QString::fromStdString(text);
     }
   }
+  const QString& shown = shownText_;
   const int start = ToPosition(shown, c.SelStart());
   const int end = ToPosition(shown, c.SelStart() + c.SelLength());
   QTextCursor caret = textCursor();
@@ -130,7 +238,12 @@ void RichTextWidget::ShowControl(const Control& c) {
     caret.setPosition(end, QTextCursor::KeepAnchor);
     setTextCursor(caret);
   }
-  ensureCursorVisible();
+  // A caret at the very start shows the text from its top, margin included.
+  if (end == 0) {
+    verticalScrollBar()->setValue(verticalScrollBar()->minimum());
+  } else {
+    ensureCursorVisible();
+  }
   showing_ = false;
 }
 

@@ -7,6 +7,8 @@
 
 #include <QTextEdit>
 #include <functional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace orv {
@@ -34,6 +36,12 @@ class RichTextWidget : public QTextEdit {
   // user moved the caret.
   std::function<void(const QString&)> onEdited;
   std::function<void(int start, int length)> onCaret;
+  // Called to show the control again, when a long text went in only in part.
+  std::function<void()> resync;
+
+  // The most characters that go into the document in one turn of the event
+  // loop.
+  static constexpr int kCharactersPerTurn = 1 << 20;
 
  protected:
   void resizeEvent(QResizeEvent* e) override;
@@ -48,9 +56,22 @@ class RichTextWidget : public QTextEdit {
   // Sets the box up for one line or for several, as the control says.
   void SetMultiLine(bool on);
 
+  // The part of the document to replace for a new text and offsets.
+  struct Change {
+    int first = 0, last = 0;        // the new characters that go in
+    int position = 0, removed = 0;  // the document's positions they replace
+    int removedCharacters = 0;      // the same, in characters of the old text
+  };
+  static Change Compare(std::string_view was, const std::vector<int>& wasOffsets, std::string_view now,
+                        const std::vector<int>& nowOffsets);
+
   bool showing_ = false;
   bool multiLine_ = false;
+  // What the document shows: its text, as UTF-16 and as UTF-8, and each
+  // character's offset.
   QString shownText_;
+  std::string shownUtf8_;
+  std::vector<int> shownOffsets_;
 };
 
 }  // namespace orv::qt

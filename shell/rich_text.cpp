@@ -1,6 +1,7 @@
 #include "shell/rich_text.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "shell/text.h"
 
@@ -8,28 +9,37 @@ namespace orv {
 
 namespace {
 
-// The text as its characters.
-std::vector<std::string_view> Chars(std::string_view s) {
-  std::vector<std::string_view> out;
-  const int n = CharCount(s);
-  out.reserve(static_cast<std::size_t>(n));
-  for (int i = 0; i < n; ++i) {
-    const std::size_t from = ByteOffset(s, i);
-    out.push_back(s.substr(from, ByteOffset(s, i + 1) - from));
-  }
-  return out;
+bool IsContinuation(char c) { return (static_cast<unsigned char>(c) & 0xC0) == 0x80; }
+
+// Whether `after` is `before` with the characters [start, end) replaced by
+// some others. The two ends are compared as bytes: a run of whole characters
+// is equal exactly when its bytes are.
+bool IsReplacement(std::string_view before, std::string_view after, int start, int end) {
+  const int n = CharCount(before);
+  if (start < 0 || end < start || end > n) return false;
+  const std::size_t head = ByteOffset(before, start);
+  const std::size_t tail = before.size() - ByteOffset(before, end);
+  if (head + tail > after.size()) return false;
+  return before.substr(0, head) == after.substr(0, head) &&
+         before.substr(before.size() - tail) == after.substr(after.size() - tail);
 }
 
-// Whether `after` is `before` with [start, end) replaced by some characters.
-bool IsReplacement(const std::vector<std::string_view>& before, const std::vector<std::string_view>& after, int start,
-                   int end) {
-  const int n = static_cast<int>(before.size());
-  const int m = static_cast<int>(after.size());
-  if (start < 0 || end < start || end > n) return false;
-  const int tail = n - end;
-  if (start + tail > m) return false;
-  return std::equal(before.begin(), before.begin() + start, after.begin()) &&
-         std::equal(before.begin() + end, before.end(), after.end() - tail);
+// The number of whole characters the two texts share at their start, and,
+// of what is left, at their end.
+std::pair<int, int> SharedEnds(std::string_view a, std::string_view b) {
+  std::size_t head = 0;
+  while (head < a.size() && head < b.size() && a[head] == b[head]) ++head;
+  // Back to the start of a character in both.
+  while (head > 0 && ((head < a.size() && IsContinuation(a[head])) || (head < b.size() && IsContinuation(b[head])))) {
+    --head;
+  }
+  std::size_t tail = 0;
+  while (tail < a.size() - head && tail < b.size() - head && a[a.size() - 1 - tail] == b[b.size() - 1 - tail]) {
+    ++tail;
+  }
+  // Forward to the start of a character in both.
+  while (tail > 0 && (IsContinuation(a[a.size() - tail]) || IsContinuation(b[b.size() - tail]))) --tail;
+  return {CharCount(a.substr(0, head)), CharCount(a.substr(a.size() - tail))};
 }
 
 }  // namespace
@@ -53,32 +63,22 @@ void RichText::Replace(int start, int removed, int inserted) {
 }
 
 void RichText::Follow(std::string_view before, std::string_view after, int selStart, int selLength) {
-  const auto was = Chars(before);
-  const auto now = Chars(after);
-  const int n = static_cast<int>(was.size());
-  const int m = static_cast<int>(now.size());
+  const int n = CharCount(before);
+  const int m = CharCount(after);
   if (static_cast<int>(offsets_.size()) != n) Reset(n);
 
   auto apply = [&](int start, int end) { Replace(start, end - start, m - (n - (end - start))); };
   // Typing over the selection (or at the caret).
-  if (IsReplacement(was, now, selStart, selStart + selLength)) {
+  if (IsReplacement(before, after, selStart, selStart + selLength)) {
     return apply(selStart, selStart + selLength);
   }
   // Delete and Backspace without a selection remove one character.
   if (m == n - 1 && selLength == 0) {
-    if (IsReplacement(was, now, selStart, selStart + 1)) return apply(selStart, selStart + 1);
-    if (IsReplacement(was, now, selStart - 1, selStart)) return apply(selStart - 1, selStart);
+    if (IsReplacement(before, after, selStart, selStart + 1)) return apply(selStart, selStart + 1);
+    if (IsReplacement(before, after, selStart - 1, selStart)) return apply(selStart - 1, selStart);
   }
   // Anything else: what the two texts share at both ends keeps its offsets.
-  int prefix = 0;
-  while (prefix < n && prefix < m && was[static_cast<std::size_t>(prefix)] == now[static_cast<std::size_t>(prefix)]) {
-    ++prefix;
-  }
-  int suffix = 0;
-  while (suffix < n - prefix && suffix < m - prefix &&
-         was[static_cast<std::size_t>(n - 1 - suffix)] == now[static_cast<std::size_t>(m - 1 - suffix)]) {
-    ++suffix;
-  }
+  const auto [prefix, suffix] = SharedEnds(before, after);
   apply(prefix, n - suffix);
 }
 

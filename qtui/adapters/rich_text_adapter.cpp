@@ -17,6 +17,11 @@ class RichText : public ControlAdapter {
     Control* target = &c;
     rich->onEdited = [&view, target](const QString& t) { view.Edited(*target, t); };
     rich->onCaret = [&view, target](int start, int length) { view.CaretMoved(*target, start, length); };
+    // A long text goes in part by part; each later part shows the control
+    // as it then stands, unless its screen has gone.
+    rich->resync = [&view, rich] {
+      if (Control* control = view.ControlOf(rich)) rich->ShowControl(*control);
+    };
     return rich;
   }
 

@@ -16,7 +16,7 @@ bool OpenDataStore(Program& program) {
     store.gWorkspace = &data::DefaultWorkspace();
     // The directory as the platform gives it, then the separator and the name.
     const std::string path = program.ExeDir() + "/" + std::string(data::kDatabaseFileName);
-    store.gDatabase = store.gWorkspace->OpenDatabase(path);
+    store.gDatabase = data::OpenProgramDatabase(*store.gWorkspace, path);
     return true;
   } catch (const RuntimeError&) {
     program.messages().Show(

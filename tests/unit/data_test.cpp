@@ -127,6 +127,80 @@ TEST(DatabaseOpen, FailsWithoutCreatingAFile) {
   EXPECT_FALSE(fs::exists(missing));
 }
 
+// SQLite takes a file of no bytes, or one with no tables, for an empty
+// database; neither is the program's database.
+TEST(DatabaseOpen, OnlyADatabaseHoldingTheProgramsTablesOpens) {
+  TempDir dir;
+  const std::string zero = (dir / "zero.db").string(), header = (dir / "header.db").string(),
+                    empty = (dir / "empty.db").string(), other = (dir / "other.db").string(),
+                    one = (dir / "one.db").string();
+  WriteFile(zero, "");
+  WriteFile(header, std::string("SQLite format 3\0", 16));  // the header alone, no pages
+  MakeDatabase(empty, "PRAGMA user_version = 1;");
+  MakeDatabase(other, "CREATE TABLE Other (X TEXT);");
+  MakeDatabase(one, "CREATE TABLE Bonds (Bond TEXT, Energy REAL, Length REAL);");
+  const std::pair<std::string, std::string> cases[] = {{zero, "3000: Unrecognized database format '" + zero + "'."},
+                                                       {header, "3000: Unrecognized database format '" + header + "'."},
+                                                       {empty, "3000: Unrecognized database format '" + empty + "'."},
+                                                       {other, "3000: Unrecognized database format '" + other + "'."},
+                                                       {one, "nothing raised"},
+                                                       {kBinDir + "/OrvantaData.db", "nothing raised"}};
+  for (const auto& c : cases) {
+    EXPECT_EQ(Raised([&] { OpenProgramDatabase(DefaultWorkspace(), c.first); }), c.second);
+  }
+  // The engine alone opens any real database; a file of no bytes is none.
+  EXPECT_EQ(Raised([&] { Database::Open(other); }), "nothing raised");
+  EXPECT_EQ(Raised([&] { Database::Open(zero); }), "3000: Unrecognized database format '" + zero + "'.");
+  EXPECT_EQ(fs::file_size(zero), 0u);
+}
+
+// A database in WAL mode would have SQLite create its -wal and -shm files
+// beside it, even to read; the program writes nothing. Names with blanks and
+// the characters of a URI are opened as they stand.
+TEST(DatabaseOpen, AWalModeDatabaseIsReadWithoutAFileWritten) {
+  TempDir dir;
+  for (const std::string name : {"OrvantaData.db", "a b?c=1#d%20.db", ":memory:"}) {
+    SCOPED_TRACE(name);
+    const fs::path folder = dir / ("f" + std::to_string(name.size()));
+    fs::create_directory(folder);
+    fs::copy_file(kBinDir + "/OrvantaData.db", folder / name);
+    MakeDatabase(folder / name, "PRAGMA journal_mode = WAL;");
+    fs::remove(folder / (name + "-wal"));
+    fs::remove(folder / (name + "-shm"));
+    {
+      DataStore store;
+      store.gDatabase = OpenProgramDatabase(DefaultWorkspace(), (folder / name).string());
+      FillElements(store);
+      EXPECT_EQ(store.Elements.At(1, 0), Variant("H"));
+      EXPECT_EQ(FindMolecularWeight(store, "SO4"), Variant(96.056));
+    }
+    std::vector<std::string> files;
+    for (const auto& entry : fs::directory_iterator(folder)) files.push_back(entry.path().filename().string());
+    EXPECT_EQ(files, std::vector<std::string>{name});
+  }
+}
+
+// The rows of a query text are kept: a record set opened again holds the same
+// rows and walks them on its own, and closing one leaves the other whole.
+TEST_F(DataStoreTest, AQueryRunAgainGivesTheSameRowsEachWalkedOnItsOwn) {
+  auto first = store.gDatabase->OpenRecordset("SELECT Symbol FROM GeneralInfo");
+  first->MoveFirst();
+  first->MoveNext();
+  auto second = store.gDatabase->OpenRecordset("SELECT Symbol FROM GeneralInfo");
+  EXPECT_EQ(second->Field("Symbol"), Variant("H"));
+  EXPECT_EQ(first->Field("Symbol"), Variant("He"));
+  second->Close();
+  EXPECT_EQ(Raised([&] { second->Field("Symbol"); }), "3000: Object invalid or no longer set.");
+  EXPECT_TRUE(second->FieldNames().empty());
+  first->MoveNext();
+  EXPECT_EQ(first->Field("Symbol"), Variant("Li"));
+  // A text that failed fails again, with the same words.
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_PRED2(Contains, Raised([&] { store.gDatabase->OpenRecordset("SELECT * FROM Elementz"); }),
+                 "cannot find the input table");
+  }
+}
+
 TEST_F(DataStoreTest, EngineErrorsCarryWordsAndLeaveTheSqlText) {
   const std::pair<const char*, const char*> cases[] = {
       {"SELECT * FROM Elementz", "3000: The database engine cannot find the input table or query 'Elementz'"},

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -14,6 +15,7 @@
 #include "formulas/formula_module.h"
 #include "shell/program.h"
 #include "shell/rich_text.h"
+#include "shell/screens/module1.h"
 #include "shell/text.h"
 #include "tests/support/fake_services.h"
 
@@ -137,6 +139,28 @@ TEST_F(FormulaTest, SecondGroupBehindAGroupWithDigitNeverEnds) {
   EXPECT_EQ(Scan("(NH4)(SO4)3", 0, fast), std::nullopt);
 }
 
+// On the screen the endless group looks the group up in MolecularWeights at
+// every turn, some 32768 times; the query goes to the file once, the rest is
+// answered from memory, and the press ends at once.
+TEST(FormulaScreens, TheEndlessGroupEndsAtOnceWithTheDataEntryMessage) {
+  test::FakeServices fakes;
+  Program program(AllScreens(), fakes.services(), ORVANTA_BIN_DIR);
+  program.Start();
+  program.UserAction([&] { program.Show("frmWeights"); });
+  Form& form = *program.Find("frmWeights");
+  for (char c : std::string("(OH)2(SO4)")) program.UserKey(form, &form.ctl("RichTextBox1"), Key{c, c, 0});
+  const std::size_t before = Store(program).gDatabase->FileQueries();
+  const auto start = std::chrono::steady_clock::now();
+  program.UserKey(form, &form.ctl("RichTextBox1"), Key{kKeyReturn, '\r', 0});
+  const auto elapsed = std::chrono::steady_clock::now() - start;
+  EXPECT_EQ(fakes.messages.boxes, (Boxes{{"Data entry error", Icon::None, "Orvanta"}}));
+  EXPECT_LE(Store(program).gDatabase->FileQueries(), before + 1);
+  EXPECT_EQ(Store(program).gSql, "SELECT * FROM MolecularWeights");
+  EXPECT_FALSE(data::CurrentRecordset(Store(program)).IsOpen());
+  // Generous, for builds with sanitizers; a release build takes some milliseconds.
+  EXPECT_LT(std::chrono::duration<double>(elapsed).count(), 2.0);
+}
+
 TEST_F(FormulaTest, AtomCounterCountsEachSide) {
   const std::pair<const char*, const char*> cases[] = {
       {"CO2 + H2O ", "C1 O3 H2"},
@@ -214,6 +238,50 @@ TEST(RichText, OffsetsFollowEdits) {
     rich.Follow("H2O", c.after, c.selStart, c.selLength);
     EXPECT_EQ(rich.Offsets(), c.expected) << c.after;
   }
+}
+
+// Characters of several bytes count as one each; an edit that the caret
+// doesn't explain keeps the offsets of what both texts share at their ends.
+TEST(RichText, OffsetsFollowEditsOfCharactersOfSeveralBytes) {
+  const struct {
+    const char* before;
+    const char* after;
+    int selStart, selLength;
+    std::vector<int> expected;
+  } cases[] = {
+      {"a\u00e9b", "a\u00e9xb", 2, 0, {-50, 0, 50, 0}},       // typed behind the two-byte character
+      {"a\u00e9b", "ab", 2, 0, {-50, 0}},                     // Backspace removes it whole
+      {"a\u00e9b", "a\u00e8b", 0, 0, {-50, 50, 0}},           // same first byte, another character
+      {"\U0001d49cxy", "\U0001d49cy", 0, 0, {-50, 0}},        // four bytes, then a change away from the caret
+      {"x\u20acy", "x\u20ac\u20acy", 0, 0, {-50, 0, 50, 0}},  // the second of two equal characters is new
+  };
+  for (const auto& c : cases) {
+    RichText rich;
+    rich.Reset(CharCount(c.before));
+    rich.SetOffset(0, 1, RichText::kLowered);
+    rich.SetOffset(0, 0, RichText::kRaised);
+    rich.Follow(c.before, c.after, c.selStart, c.selLength);
+    EXPECT_EQ(rich.Offsets(), c.expected) << c.after;
+  }
+}
+
+// Following a key typed into a long text costs about as much as the text's
+// length, not its square: a thousand keys into 1 MB take well under a second
+// even with sanitizers (before, one key into 200 KB took half a minute).
+TEST(RichText, KeysTypedIntoALongTextAreFollowedQuickly) {
+  std::string text;
+  while (text.size() < (1u << 20)) text += "Help text line for a long topic, \u00e9t\u00e9. ";
+  RichText rich;
+  rich.Reset(CharCount(text));
+  const auto start = std::chrono::steady_clock::now();
+  for (int k = 0; k < 20; ++k) {
+    std::string after = text;
+    after.insert(ByteOffset(text, 1000 + k), "x");
+    rich.Follow(text, after, 1000 + k, 0);
+    text = std::move(after);
+  }
+  EXPECT_LT(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count(), 2.0);
+  EXPECT_EQ(static_cast<int>(rich.Offsets().size()), CharCount(text));
 }
 
 }  // namespace
