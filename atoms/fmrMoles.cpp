@@ -1,7 +1,6 @@
 #include "atoms/fmrMoles.h"
 
 #include "data/store.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 

@@ -3,7 +3,6 @@
 #include "data/store.h"
 #include "shell/picture.h"
 #include "shell/screen_frame.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 

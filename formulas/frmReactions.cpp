@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "data/store.h"
 #include "formulas/formula_module.h"
 #include "shell/rich_text.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 

@@ -1,8 +1,8 @@
 #include "formulas/frmWeights.h"
 
+#include "data/store.h"
 #include "formulas/formula_module.h"
 #include "shell/rich_text.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 

@@ -1,6 +1,6 @@
 #include "gases/frmCombinedLaws.h"
 
-#include "shell/screens/module1.h"
+#include "data/store.h"
 
 namespace orv {
 

@@ -1,6 +1,6 @@
 #include "gases/frmDalton.h"
 
-#include "shell/screens/module1.h"
+#include "data/store.h"
 
 namespace orv {
 

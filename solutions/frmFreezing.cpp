@@ -1,7 +1,6 @@
 #include "solutions/frmFreezing.h"
 
 #include "data/store.h"
-#include "shell/screens/module1.h"
 #include "tables/padded_row.h"
 
 namespace orv {

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "data/store.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 

@@ -6,7 +6,6 @@
 #include "shell/chart.h"
 #include "shell/numbers.h"
 #include "shell/screen_frame.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 

@@ -1,7 +1,6 @@
 #include "tables/frmPeriodicData.h"
 
 #include "data/store.h"
-#include "shell/screens/module1.h"
 #include "tables/frmPeriodic.h"
 
 namespace orv {
