@@ -1,7 +1,7 @@
 #include "solutions/frmFreezing.h"
 
+#include "data/padded_row.h"
 #include "data/store.h"
-#include "tables/padded_row.h"
 
 namespace orv {
 
