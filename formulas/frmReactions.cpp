@@ -148,9 +148,9 @@ void frmReactions::cmdOk_Click() {
     }
     // The character behind "=" is skipped unseen: ">" must follow at once.
     const int p = InStr(text, "=");
-    m.ParseSide(*this, Store(program()), Left(text, p - 1));
+    m.ParseSide(program().messages(), Store(program()), Left(text, p - 1));
     ShowSide("Label2", "Text1");
-    m.ParseSide(*this, Store(program()), Mid(text, p + 2));
+    m.ParseSide(program().messages(), Store(program()), Mid(text, p + 2));
     ShowSide("Label3", "Text2");
 
     // The left column's total, which nothing uses.

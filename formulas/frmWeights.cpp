@@ -195,7 +195,7 @@ void frmWeights::cmdOk_Click() {
       return;
     }
 
-    m.ScanWeights(*this, Store(program()), L, HydrateCount,
+    m.ScanWeights(program().messages(), Store(program()), L, HydrateCount,
                   [this](const std::string& Substance, Single& Result) { Weight(Substance, Result); });
     if (CDbl(m.FormulaCoefficient).value() == 0) m.FormulaCoefficient = "1";
 
