@@ -82,6 +82,10 @@ constexpr std::string_view kHelp =
     "different rate. For each isotope, multiple  the weight times the percent of occurence and add the results "
     "together. This gives you the average atomic weight as you see it in decimal form.  ";
 
+// Every box of the screen, emptied in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3",  "Text4",  "Text5",  "Text6",  "Text7",
+                                       "Text8", "Text9", "Text10", "Text11", "Text12", "Text13", "Text14"};
+
 }  // namespace
 
 frmAverageMass::frmAverageMass(Program& program)
@@ -93,12 +97,10 @@ frmAverageMass::frmAverageMass(Program& program)
   for (std::string_view box : kInputs) Bind(box, Ev::KeyPress, &frmAverageMass::Isotope_KeyPress);
 }
 
-void frmAverageMass::Form_Load() {
-  for (int i = 1; i <= 14; ++i) ctl("Text" + std::to_string(i)).SetText("");
-}
+void frmAverageMass::Form_Load() { EmptyBoxes(kBoxes); }
 
 void frmAverageMass::cmdClear_Click() {
-  for (int i = 1; i <= 14; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes(kBoxes);
   ctl("Text1").SetFocus();
 }
 

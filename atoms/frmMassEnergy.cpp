@@ -65,12 +65,10 @@ frmMassEnergy::frmMassEnergy(Program& program)
   Bind("cmdClear", Ev::Click, &frmMassEnergy::cmdClear_Click);
 }
 
-void frmMassEnergy::Form_Load() {
-  for (int i = 1; i <= 6; ++i) ctl("Text" + std::to_string(i)).SetText("");
-}
+void frmMassEnergy::Form_Load() { EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"}); }
 
 void frmMassEnergy::cmdClear_Click() {
-  for (int i = 1; i <= 6; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"});
   ctl("Text1").SetFocus();
 }
 

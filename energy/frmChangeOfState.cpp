@@ -49,6 +49,9 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
+
 }  // namespace
 
 frmChangeOfState::frmChangeOfState(Program& program)
@@ -72,10 +75,8 @@ void frmChangeOfState::SetCaptions(std::string_view heat, std::string_view resul
   ctl("Label5").SetCaption(std::string(kUnit));
 }
 
-void frmChangeOfState::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
-
 void frmChangeOfState::Form_Load() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions(kFusion, kMelt);
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
@@ -109,7 +110,7 @@ void frmChangeOfState::cmdOk_Click() {
 // The short prompts stay when melting was chosen already; from boiling,
 // selecting melting puts the long ones back.
 void frmChangeOfState::cmdClear_Click() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the mass of the material.");
   ctl("Label2").SetCaption(ctl("opt1").Value() ? "Enter the heat of fusion" : "Enter the heat of vaporization.");
   ctl("Label3").SetCaption(std::string(kWeight));

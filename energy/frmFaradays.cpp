@@ -58,6 +58,9 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text6", "Text4"};
+
 }  // namespace
 
 frmFaradays::frmFaradays(Program& program)
@@ -76,8 +79,6 @@ frmFaradays::frmFaradays(Program& program)
 
 // Every box but the minutes, which the moles and liters modes hide with
 // their text kept.
-void frmFaradays::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text6", "Text4"}); }
-
 void frmFaradays::SetCaptions(std::string_view first, std::string_view second, std::string_view minutes,
                               std::string_view result, std::string_view unit) {
   ctl("Label1").SetCaption(std::string(first));
@@ -89,7 +90,7 @@ void frmFaradays::SetCaptions(std::string_view first, std::string_view second, s
 }
 
 void frmFaradays::Form_Load() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Text5").SetText("");
   SetCaptions(kCoulombs, kWeight, "Enter the minutes .", kGrams, "");
   ctl("Text5").SetVisible(true);
@@ -101,19 +102,19 @@ void frmFaradays::opt1_Click() {
   SetCaptions(kCoulombs, kWeight, "Enter the minutes.", kGrams, "grams ");
   ctl("Text5").SetVisible(true);
   ctl("Text5").SetText("");
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
 }
 
 void frmFaradays::opt2_Click() {
   SetCaptions(kAmps, kMinutes, "", kMoles, "moles");
   ctl("Text5").SetVisible(false);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
 }
 
 void frmFaradays::opt3_Click() {
   SetCaptions(kAmps, kMinutes, "", kVolume, "liters");
   ctl("Text5").SetVisible(false);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
 }
 
 // One formula serves every mode. Which form runs depends on the minutes box
@@ -160,7 +161,7 @@ void frmFaradays::cmdOk_Click() {
 // The mode stays selected, so its routine does not run again; the captions
 // written here keep their own wordings.
 void frmFaradays::cmdClear_Click() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   if (ctl("opt1").Value()) {
     SetCaptions(kCoulombs, kWeight, kMinutes, kGrams, "grams ");
     ctl("Text5").SetVisible(true);

@@ -45,6 +45,9 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
+
 }  // namespace
 
 frmHalfLife::frmHalfLife(Program& program)
@@ -60,8 +63,6 @@ frmHalfLife::frmHalfLife(Program& program)
   EnterRunsOk("Text4");
 }
 
-void frmHalfLife::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
-
 void frmHalfLife::SetCaptions(std::string_view result, std::string_view last, std::string_view unit) {
   ctl("Label2").SetCaption(std::string(kHalfLife));
   ctl("Label3").SetCaption(std::string(kInitial));
@@ -72,20 +73,20 @@ void frmHalfLife::SetCaptions(std::string_view result, std::string_view last, st
 
 void frmHalfLife::Form_Load() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions("The time required is", "Enter the final quantity", "years");
   DisableOkAndPrint();
 }
 
 void frmHalfLife::opt1_Click() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions("The time required is", "Enter the final quantity", "years");
 }
 
 void frmHalfLife::opt2_Click() {
   ctl("opt2").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions("The final quantity is ", "Enter the time period. ", "atoms");
 }
 
@@ -117,7 +118,7 @@ void frmHalfLife::cmdOk_Click() {
 
 void frmHalfLife::cmdClear_Click() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label2").SetCaption(std::string(kHalfLife));
   ctl("Label3").SetCaption(std::string(kInitial));
   ctl("Label5").SetCaption("Enter the final quantity.");

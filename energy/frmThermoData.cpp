@@ -66,6 +66,9 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
+
 }  // namespace
 
 frmThermoData::frmThermoData(Program& program)
@@ -83,12 +86,10 @@ frmThermoData::frmThermoData(Program& program)
   EnterRunsOk("Text5");
 }
 
-void frmThermoData::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
-
 // The short prompts set here give way at once to those of the enthalpy mode,
 // whose routine runs when it is selected.
 void frmThermoData::Form_Load() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the enthalpy value for the reactant.");
   ctl("Label2").SetCaption("Enter the enthalpy value for the product.");
   ctl("Label3").SetCaption(std::string(kRatio));
@@ -194,7 +195,7 @@ void frmThermoData::cmdClear_Click() {
     ctl("Label4").SetCaption(std::string(kEnthalpyChange));
     ctl("Label5").SetCaption(" To ");
     ctl("Label6").SetCaption("kJ");
-    EmptyBoxes();
+    EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text5").SetVisible(true);
     ctl("opt1").SetValue(true);
@@ -204,7 +205,7 @@ void frmThermoData::cmdClear_Click() {
     ctl("Label3").SetCaption("");
     ctl("Label4").SetCaption(std::string(kOverall));
     ctl("Label5").SetCaption("");
-    EmptyBoxes();
+    EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text3").SetVisible(false);
     ctl("Text5").SetVisible(false);
@@ -215,7 +216,7 @@ void frmThermoData::cmdClear_Click() {
     ctl("Label3").SetCaption(std::string(kReactionEntropy));
     ctl("Label4").SetCaption(std::string(kFreeEnergy));
     ctl("Label5").SetCaption("");
-    EmptyBoxes();
+    EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text3").SetVisible(true);
     ctl("Text5").SetVisible(false);

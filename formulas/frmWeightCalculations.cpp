@@ -55,7 +55,7 @@ frmWeightCalculations::frmWeightCalculations(Program& program)
 }
 
 void frmWeightCalculations::Form_Load() {
-  for (std::string_view box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("Option1").SetValue(true);
   ctl("Option4").SetValue(true);
   ctl("Label3").SetCaption("The number of molecules is ");

@@ -43,7 +43,7 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
-constexpr const char* kInputs[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
+constexpr std::string_view kInputs[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 
 }  // namespace
 
@@ -53,11 +53,11 @@ frmCombinedLaws::frmCombinedLaws(Program& program)
   Bind("Form", Ev::Load, &frmCombinedLaws::Form_Load);
   Bind("cmdOk", Ev::Click, &frmCombinedLaws::cmdOk_Click);
   Bind("cmdClear", Ev::Click, &frmCombinedLaws::cmdClear_Click);
-  for (const char* box : kInputs) EnterRunsOk(box);
+  for (std::string_view box : kInputs) EnterRunsOk(box);
 }
 
 void frmCombinedLaws::Form_Load() {
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   ctl("Text6").SetText("");
   ctl("chk1").SetValue(false);
   DisableOkAndPrint();
@@ -68,7 +68,7 @@ void frmCombinedLaws::cmdOk_Click() {
     // One test of all five together: a single filled box lets the routine
     // go on, and an empty one then fails where it is read.
     bool allEmpty = true;
-    for (const char* box : kInputs) allEmpty = allEmpty && ctl(box).Text().empty();
+    for (std::string_view box : kInputs) allEmpty = allEmpty && ctl(box).Text().empty();
     if (allEmpty) {
       MsgBox("You must enter valid data into all required boxes.", Icon::None, kCombinedTitle);
       return;
@@ -113,7 +113,7 @@ void frmCombinedLaws::cmdOk_Click() {
 }
 
 void frmCombinedLaws::cmdClear_Click() {
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   EmptyBoxes({"Text7", "Text6"});
   ctl("Text1").SetFocus();
   ctl("chk1").SetValue(false);

@@ -67,7 +67,7 @@ frmDalton::frmDalton(Program& program)
 }
 
 void frmDalton::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"});
   ctl("opt1").SetValue(true);
   ctl("Text2").SetEnabled(true);
   ctl("Text5").SetEnabled(true);
@@ -136,7 +136,7 @@ void frmDalton::cmdOk_Click() {
 
 // The mode, its prompts and the hidden boxes stay as they are.
 void frmDalton::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"});
   ctl("Text1").SetFocus();
 }
 

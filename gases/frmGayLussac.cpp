@@ -99,7 +99,7 @@ void frmGayLussac::SetCaptions(std::string_view box1, std::string_view box2, std
 }
 
 void frmGayLussac::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   SetCaptions(kPressure, kTemperature, "Enter the final temperature in Kelvin.", "The final pressure is ", "Atm.");
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
@@ -158,7 +158,7 @@ void frmGayLussac::cmdOk_Click() {
 // The captions come back only through opt1's routine, which runs when opt2
 // was selected.
 void frmGayLussac::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   ctl("opt1").SetValue(true);
   ctl("Text1").SetFocus();
 }

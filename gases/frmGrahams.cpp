@@ -61,7 +61,7 @@ frmGrahams::frmGrahams(Program& program)
 }
 
 void frmGrahams::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text5", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text5", "Text3"});
   DisableOkAndPrint();
 }
 
@@ -95,7 +95,7 @@ void frmGrahams::cmdOk_Click() {
 }
 
 void frmGrahams::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text5", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text5", "Text3"});
   ctl("Text1").SetFocus();
 }
 

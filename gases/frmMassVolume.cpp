@@ -52,6 +52,9 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"};
+
 }  // namespace
 
 frmMassVolume::frmMassVolume(Program& program)
@@ -65,19 +68,13 @@ frmMassVolume::frmMassVolume(Program& program)
   for (const char* box : {"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"}) EnterRunsOk(box);
 }
 
-void frmMassVolume::EmptyBoxes() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"}) {
-    ctl(box).SetText("");
-  }
-}
-
 void frmMassVolume::HideExtraBoxes() {
   for (const char* name : {"Text6", "Label6", "Text7", "Label7"}) ctl(name).SetVisible(false);
 }
 
 void frmMassVolume::Form_Load() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the mass of the reactant in grams.");
   ctl("Label2").SetCaption(std::string(kWeightPrompt));
   ctl("Label3").SetCaption("Enter the ratio of product to reactant.");
@@ -95,7 +92,7 @@ void frmMassVolume::opt1_Click() {
   ctl("Label4").SetCaption("The volume of the gas is ");
   ctl("Label8").SetCaption("Liters");
   HideExtraBoxes();
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text8"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text8"});
 }
 
 void frmMassVolume::opt2_Click() {
@@ -106,9 +103,7 @@ void frmMassVolume::opt2_Click() {
   ctl("Label6").SetCaption(std::string(kWeightPrompt));
   ctl("Label7").SetCaption("Enter the initial pressure in kPa.");
   ctl("Label8").SetCaption("grams");
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"}) {
-    ctl(box).SetText("");
-  }
+  EmptyBoxes(kBoxes);
   for (const char* name : {"Text6", "Label6", "Text7", "Label7"}) ctl(name).SetVisible(true);
 }
 
@@ -153,7 +148,7 @@ void frmMassVolume::cmdOk_Click() {
 
 void frmMassVolume::cmdClear_Click() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the mass of the reactant.");
   ctl("Label2").SetCaption(std::string(kWeightPrompt));
   ctl("Label3").SetCaption("Enter the ratio of product to reactant.");

@@ -65,7 +65,7 @@ void frmMolarVolume::SetCaptions(std::string_view second, std::string_view resul
 
 void frmMolarVolume::Form_Load() {
   ctl("opt1").SetValue(true);
-  for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   opt1_Click();
   DisableOkAndPrint();
 }
@@ -106,7 +106,7 @@ void frmMolarVolume::cmdOk_Click() {
 
 void frmMolarVolume::cmdClear_Click() {
   ctl("opt1").SetValue(true);
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   opt1_Click();
   ctl("Text1").SetFocus();
 }

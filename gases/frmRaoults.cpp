@@ -51,7 +51,7 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
-constexpr const char* kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"};
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"};
 
 }  // namespace
 
@@ -64,7 +64,7 @@ frmRaoults::frmRaoults(Program& program)
 }
 
 void frmRaoults::Form_Load() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   DisableOkAndPrint();
 }
 
@@ -111,7 +111,7 @@ void frmRaoults::cmdOk_Click() {
 }
 
 void frmRaoults::cmdClear_Click() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   ctl("Text1").SetFocus();
 }
 

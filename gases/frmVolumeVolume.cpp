@@ -58,7 +58,7 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
-constexpr const char* kBoxes[] = {"Text1", "Text2", "Text3", "Text13", "Text4"};
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text13", "Text4"};
 
 // The tests compare texts: "." sorts before "0" and is refused, "00" after it.
 bool AtOrBeforeZero(const std::string& text) { return text.empty() || text <= "0"; }
@@ -77,7 +77,7 @@ frmVolumeVolume::frmVolumeVolume(Program& program)
 }
 
 void frmVolumeVolume::Form_Load() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   DisableOkAndPrint();
 }
 
@@ -105,7 +105,7 @@ void frmVolumeVolume::cmdOk_Click() {
 }
 
 void frmVolumeVolume::cmdClear_Click() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   ctl("Text1").SetFocus();
 }
 

@@ -81,7 +81,7 @@ frmAcids::frmAcids(Program& program)
 }
 
 void frmAcids::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
 }
@@ -138,7 +138,7 @@ void frmAcids::cmdOk_Click() {
 }
 
 void frmAcids::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   ctl("Text1").SetFocus();
 }
 

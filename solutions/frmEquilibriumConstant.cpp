@@ -134,7 +134,7 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
-constexpr const char* kInputs[] = {"Text2", "Text5", "Text3", "Text4", "Text8", "Text11", "Text9", "Text12"};
+constexpr std::string_view kInputs[] = {"Text2", "Text5", "Text3", "Text4", "Text8", "Text11", "Text9", "Text12"};
 
 // A coefficient that is empty or compares at or below "0" as text becomes 1.
 void DefaultCoefficient(Control& box) {
@@ -155,14 +155,14 @@ frmEquilibriumConstant::frmEquilibriumConstant(Program& program)
   // The result box is the designated box; the first concentration enables
   // the buttons as well.
   Bind("Text5", Ev::Change, &frmEquilibriumConstant::Designated_Change);
-  for (const char* box : kInputs) EnterRunsOk(box);
+  for (std::string_view box : kInputs) EnterRunsOk(box);
 }
 
 void frmEquilibriumConstant::Form_Load() {
   ctl("Label1").SetCaption(
       "Enter the coefficients and concentrations for each\r\n"
       "reactant and product from a BALANCED equation.");
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   EmptyBoxes({"Text1", "Text14"});
   DisableOkAndPrint();
 }
@@ -212,7 +212,7 @@ void frmEquilibriumConstant::cmdOk_Click() {
 }
 
 void frmEquilibriumConstant::cmdClear_Click() {
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   EmptyBoxes({"Text1", "Text14"});
   ctl("Text2").SetFocus();
 }

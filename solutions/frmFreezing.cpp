@@ -145,7 +145,7 @@ void frmFreezing::cmdOk_Click() {
 
 void frmFreezing::cmdClear_Click() {
   ctl("lstList1").SetListIndex(-1);
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   ctl("Text1").SetFocus();
 }
 

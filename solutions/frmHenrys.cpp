@@ -52,7 +52,7 @@ frmHenrys::frmHenrys(Program& program)
 }
 
 void frmHenrys::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   DisableOkAndPrint();
 }
 
@@ -73,7 +73,7 @@ void frmHenrys::cmdOk_Click() {
 }
 
 void frmHenrys::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("Text1").SetFocus();
 }
 

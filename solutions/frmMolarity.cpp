@@ -67,7 +67,7 @@ frmMolarity::frmMolarity(Program& program)
 void frmMolarity::Form_Load() {
   HideForm("frmSolutions");
   UnloadForm("frmSolutions");
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
 }
@@ -105,7 +105,7 @@ void frmMolarity::cmdOk_Click() {
 }
 
 void frmMolarity::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("Text1").SetFocus();
 }
 

@@ -59,9 +59,7 @@ frmMoleFraction::frmMoleFraction(Program& program)
   Bind("cmdClear", Ev::Click, &frmMoleFraction::cmdClear_Click);
 }
 
-void frmMoleFraction::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
-}
+void frmMoleFraction::Form_Load() { EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"}); }
 
 void frmMoleFraction::cmdOk_Click() {
   Trapped(kTrapWordsInfo, [&] {
@@ -96,7 +94,7 @@ void frmMoleFraction::cmdOk_Click() {
 }
 
 void frmMoleFraction::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"});
   ctl("Text1").SetFocus();
 }
 

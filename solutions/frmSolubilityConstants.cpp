@@ -67,7 +67,7 @@ constexpr ControlSpec kControls[] = {
      .flags = kSmall},
 };
 
-constexpr const char* kBoxes[] = {"Text1", "Text2", "Text3", "Text5", "Text6", "Text4"};
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text5", "Text6", "Text4"};
 
 }  // namespace
 
@@ -86,7 +86,7 @@ void frmSolubilityConstants::Form_Load() {
   ctl("Label3").SetCaption("Enter the concentration of product 2.");
   ctl("Label5").SetCaption("Enter the coefficient of product 2.");
   ctl("Label4").SetCaption("The solubility product constant (Ksp) is ");
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   DisableOkAndPrint();
 }
 
@@ -114,7 +114,7 @@ void frmSolubilityConstants::cmdOk_Click() {
 }
 
 void frmSolubilityConstants::cmdClear_Click() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetVisible(true);
   ctl("Label2").SetCaption("Enter the concentration of product 1.");
   ctl("Label3").SetCaption("Enter the concentration of product 2.");

@@ -104,7 +104,7 @@ void frmTitration::Form_Load() {
 
 void frmTitration::ResetScreen() {
   ctl("opt1").SetValue(true);
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"});
   ctl("Label6").SetCaption("");
   ctl("Label3").SetCaption("Enter the volume of the acid.");
   ctl("Label5").SetCaption("Enter the volume of the base.");

@@ -104,7 +104,7 @@ frmionizationConstant::frmionizationConstant(Program& program)
 
 void frmionizationConstant::Form_Load() {
   for (const auto& [label, caption] : kCaptions) ctl(label).SetCaption(std::string(caption));
-  for (int i = 1; i <= 8; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"});
   DisableOkAndPrint();
 }
 
@@ -140,7 +140,7 @@ void frmionizationConstant::cmdOk_Click() {
 }
 
 void frmionizationConstant::cmdClear_Click() {
-  for (int i = 1; i <= 8; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"});
   ctl("Text1").SetFocus();
 }
 
