@@ -57,9 +57,7 @@ frmMass::frmMass(Program& program)
 void frmMass::ClearBoxes() {
   ctl("Text1").SetEnabled(true);
   ctl("Text4").SetEnabled(true);
-  for (std::string_view box : {"Text1", "Text2", "Text4", "Text6", "Text9", "Text13", "Text14", "Text17"}) {
-    ctl(box).SetText("");
-  }
+  EmptyBoxes({"Text1", "Text2", "Text4", "Text6", "Text9", "Text13", "Text14", "Text17"});
 }
 
 void frmMass::Form_Load() {
