@@ -22,41 +22,54 @@ constexpr Rect OccurLabel(int row) { return {kOccurX, kTop + row * kStep + 4, kL
 constexpr Rect OccurBox(int row) { return {kOccurX + kLabelW + 8, kTop + row * kStep, kBoxW, 26}; }
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label7", "Enter the weight and percentage for up to six isotopes.", {16, 14, 556, 22}},
-    {Kind::Label, "Label1", "Weight of isotope #1", WeightLabel(0)},
-    {Kind::TextBox, "Text1", "", WeightBox(0)},
-    {Kind::Label, "Label2", "Occurence of isotope #1", OccurLabel(0)},
-    {Kind::TextBox, "Text2", "", OccurBox(0)},
-    {Kind::Label, "Label3", "Weight of Isotope #2", WeightLabel(1)},
-    {Kind::TextBox, "Text3", "", WeightBox(1)},
-    {Kind::Label, "Label4", "Occurence of isotope #2", OccurLabel(1)},
-    {Kind::TextBox, "Text4", "", OccurBox(1)},
-    {Kind::Label, "Label5", "Weight of Isotope #3", WeightLabel(2)},
-    {Kind::TextBox, "Text5", "", WeightBox(2)},
-    {Kind::Label, "Label6", "Occurence of isotope #3", OccurLabel(2)},
-    {Kind::TextBox, "Text6", "", OccurBox(2)},
-    {Kind::Label, "Label8", "Weight of Isotope #4", WeightLabel(3)},
-    {Kind::TextBox, "Text8", "", WeightBox(3)},
-    {Kind::Label, "Label9", "Occurence of isotope #4", OccurLabel(3)},
-    {Kind::TextBox, "Text9", "", OccurBox(3)},
-    {Kind::Label, "Label10", "Weight of Isotope #5", WeightLabel(4)},
-    {Kind::TextBox, "Text10", "", WeightBox(4)},
-    {Kind::Label, "Label11", "Occurence of isotope #5", OccurLabel(4)},
-    {Kind::TextBox, "Text11", "", OccurBox(4)},
-    {Kind::Label, "Label12", "Weight of Isotope #6", WeightLabel(5)},
-    {Kind::TextBox, "Text12", "", WeightBox(5)},
-    {Kind::Label, "Label13", "Occurence of isotope #5", OccurLabel(5)},
-    {Kind::TextBox, "Text13", "", OccurBox(5)},
+    {.kind = Kind::Label,
+     .name = "Label7",
+     .caption = "Enter the weight and percentage for up to six isotopes.",
+     .rect = {16, 14, 556, 22}},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Weight of isotope #1", .rect = WeightLabel(0)},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = WeightBox(0)},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Occurence of isotope #1", .rect = OccurLabel(0)},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = OccurBox(0)},
+    {.kind = Kind::Label, .name = "Label3", .caption = "Weight of Isotope #2", .rect = WeightLabel(1)},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = WeightBox(1)},
+    {.kind = Kind::Label, .name = "Label4", .caption = "Occurence of isotope #2", .rect = OccurLabel(1)},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = OccurBox(1)},
+    {.kind = Kind::Label, .name = "Label5", .caption = "Weight of Isotope #3", .rect = WeightLabel(2)},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = WeightBox(2)},
+    {.kind = Kind::Label, .name = "Label6", .caption = "Occurence of isotope #3", .rect = OccurLabel(2)},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = OccurBox(2)},
+    {.kind = Kind::Label, .name = "Label8", .caption = "Weight of Isotope #4", .rect = WeightLabel(3)},
+    {.kind = Kind::TextBox, .name = "Text8", .rect = WeightBox(3)},
+    {.kind = Kind::Label, .name = "Label9", .caption = "Occurence of isotope #4", .rect = OccurLabel(3)},
+    {.kind = Kind::TextBox, .name = "Text9", .rect = OccurBox(3)},
+    {.kind = Kind::Label, .name = "Label10", .caption = "Weight of Isotope #5", .rect = WeightLabel(4)},
+    {.kind = Kind::TextBox, .name = "Text10", .rect = WeightBox(4)},
+    {.kind = Kind::Label, .name = "Label11", .caption = "Occurence of isotope #5", .rect = OccurLabel(4)},
+    {.kind = Kind::TextBox, .name = "Text11", .rect = OccurBox(4)},
+    {.kind = Kind::Label, .name = "Label12", .caption = "Weight of Isotope #6", .rect = WeightLabel(5)},
+    {.kind = Kind::TextBox, .name = "Text12", .rect = WeightBox(5)},
+    {.kind = Kind::Label, .name = "Label13", .caption = "Occurence of isotope #5", .rect = OccurLabel(5)},
+    {.kind = Kind::TextBox, .name = "Text13", .rect = OccurBox(5)},
 
-    {Kind::Label, "Label14", "The average atomic mass is ", {16, 256, 184, 22}},
-    {Kind::TextBox, "Text14", "", {204, 252, 140, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text7", "", {16, 288, 556, 58}, {}, {}, -1, kDisabled | kMultiLine},
+    {.kind = Kind::Label, .name = "Label14", .caption = "The average atomic mass is ", .rect = {16, 256, 184, 22}},
+    {.kind = Kind::TextBox, .name = "Text14", .rect = {204, 252, 140, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text7", .rect = {16, 288, 556, 58}, .flags = kDisabled | kMultiLine},
 
-    {Kind::Button, "cmdOk", "Ok", {16, 362, 84, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 362, 84, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {200, 362, 84, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {292, 362, 84, 30}},
-    {Kind::Button, "cmdHelp", "?", {540, 364, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 362, 84, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 362, 84, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {200, 362, 84, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {292, 362, 84, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {540, 364, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 // The inputs in reading order: weight and occurrence of each isotope.
@@ -69,6 +82,10 @@ constexpr std::string_view kHelp =
     "different rate. For each isotope, multiple  the weight times the percent of occurence and add the results "
     "together. This gives you the average atomic weight as you see it in decimal form.  ";
 
+// Every box of the screen, emptied in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3",  "Text4",  "Text5",  "Text6",  "Text7",
+                                       "Text8", "Text9", "Text10", "Text11", "Text12", "Text13", "Text14"};
+
 }  // namespace
 
 frmAverageMass::frmAverageMass(Program& program)
@@ -80,12 +97,10 @@ frmAverageMass::frmAverageMass(Program& program)
   for (std::string_view box : kInputs) Bind(box, Ev::KeyPress, &frmAverageMass::Isotope_KeyPress);
 }
 
-void frmAverageMass::Form_Load() {
-  for (int i = 1; i <= 14; ++i) ctl("Text" + std::to_string(i)).SetText("");
-}
+void frmAverageMass::Form_Load() { EmptyBoxes(kBoxes); }
 
 void frmAverageMass::cmdClear_Click() {
-  for (int i = 1; i <= 14; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes(kBoxes);
   ctl("Text1").SetFocus();
 }
 

@@ -10,25 +10,42 @@ constexpr Rect Prompt(int row) { return {16, 54 + row * 36, 236, 22}; }
 constexpr Rect Box(int row) { return {256, 50 + row * 36, 168, 26}; }
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label6", "Enter the following data from a balanced equation.", {16, 16, 408, 22}, {}, {}, -1, kBold},
-    {Kind::Label, "Label1", "Coefficient for material in question", Prompt(0)},
-    {Kind::TextBox, "Text1", "", Box(0), {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label2", "Grams of material", Prompt(1)},
-    {Kind::TextBox, "Text2", "", Box(1), {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label3", "Molecular weight of material", Prompt(2)},
-    {Kind::TextBox, "Text3", "", Box(2), {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label4", "kJ gained / released", Prompt(3)},
-    {Kind::TextBox, "Text4", "", Box(3), {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label5", "The heat energy is ", Prompt(4)},
-    {Kind::TextBox, "Text5", "", Box(4), {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text6", "", {16, 236, 408, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label7", "This value is negative if energy is given off.", {16, 268, 408, 22}},
+    {.kind = Kind::Label,
+     .name = "Label6",
+     .caption = "Enter the following data from a balanced equation.",
+     .rect = {16, 16, 408, 22},
+     .flags = kBold},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Coefficient for material in question", .rect = Prompt(0)},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = Box(0), .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Grams of material", .rect = Prompt(1)},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = Box(1), .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label3", .caption = "Molecular weight of material", .rect = Prompt(2)},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = Box(2), .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label4", .caption = "kJ gained / released", .rect = Prompt(3)},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = Box(3), .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label5", .caption = "The heat energy is ", .rect = Prompt(4)},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = Box(4), .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {16, 236, 408, 26}, .flags = kDisabled},
+    {.kind = Kind::Label,
+     .name = "Label7",
+     .caption = "This value is negative if energy is given off.",
+     .rect = {16, 268, 408, 22}},
 
-    {Kind::Button, "cmdOk", "Ok", {16, 306, 84, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 306, 84, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {200, 306, 84, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {292, 306, 84, 30}},
-    {Kind::Button, "cmdHelp", "?", {392, 308, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 306, 84, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 306, 84, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {200, 306, 84, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {292, 306, 84, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {392, 308, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 constexpr std::string_view kHelp =
@@ -48,12 +65,10 @@ frmMassEnergy::frmMassEnergy(Program& program)
   Bind("cmdClear", Ev::Click, &frmMassEnergy::cmdClear_Click);
 }
 
-void frmMassEnergy::Form_Load() {
-  for (int i = 1; i <= 6; ++i) ctl("Text" + std::to_string(i)).SetText("");
-}
+void frmMassEnergy::Form_Load() { EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"}); }
 
 void frmMassEnergy::cmdClear_Click() {
-  for (int i = 1; i <= 6; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"});
   ctl("Text1").SetFocus();
 }
 

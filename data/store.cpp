@@ -5,6 +5,7 @@
 
 #include "shell/errors.h"
 #include "shell/numbers.h"
+#include "shell/program.h"
 
 namespace orv::data {
 
@@ -134,3 +135,9 @@ std::optional<Variant> FindVaporPressureByCelsius(DataStore& store, double celsi
 }
 
 }  // namespace orv::data
+
+namespace orv {
+
+data::DataStore& Store(Program& program) { return program.Module<data::DataStore>(); }
+
+}  // namespace orv

@@ -17,6 +17,10 @@
 #include "data/engine.h"
 #include "shell/variant.h"
 
+namespace orv {
+class Program;
+}
+
 namespace orv::data {
 
 // The name of the database file, which lies beside the executable.
@@ -100,3 +104,10 @@ std::optional<Variant> FindVaporPressureByText(DataStore& store, std::string_vie
 std::optional<Variant> FindVaporPressureByCelsius(DataStore& store, double celsius);
 
 }  // namespace orv::data
+
+namespace orv {
+
+// The data objects of this run of the program, which start-up opens.
+data::DataStore& Store(Program& program);
+
+}  // namespace orv

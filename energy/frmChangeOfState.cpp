@@ -19,25 +19,38 @@ constexpr std::string_view kBoil = "Energy needed to boil is ";
 constexpr std::string_view kUnit = "kJ";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 520, 60}},
-    {Kind::Option, "opt1", "Melting", {16, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Boiling", {180, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Label, "Label1", "", {20, 90, 300, 22}},
-    {Kind::TextBox, "Text1", "", {324, 86, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label2", "", {20, 126, 300, 22}},
-    {Kind::TextBox, "Text2", "", {324, 122, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label3", "", {20, 162, 300, 22}},
-    {Kind::TextBox, "Text3", "", {324, 158, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label4", "", {20, 206, 300, 22}},
-    {Kind::TextBox, "Text4", "", {324, 202, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label5", "", {492, 206, 48, 22}},
-    {Kind::TextBox, "Text5", "", {20, 240, 520, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 284, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 284, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 284, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 284, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {508, 286, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {20, 8, 520, 60}},
+    {.kind = Kind::Option, .name = "opt1", .caption = "Melting", .rect = {16, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .caption = "Boiling", .rect = {180, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label1", .rect = {20, 90, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {324, 86, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 126, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {324, 122, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 162, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {324, 158, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label4", .rect = {20, 206, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {324, 202, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label5", .rect = {492, 206, 48, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {20, 240, 520, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {20, 284, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 284, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 284, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 284, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {508, 286, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
+
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 
 }  // namespace
 
@@ -62,10 +75,8 @@ void frmChangeOfState::SetCaptions(std::string_view heat, std::string_view resul
   ctl("Label5").SetCaption(std::string(kUnit));
 }
 
-void frmChangeOfState::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
-
 void frmChangeOfState::Form_Load() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions(kFusion, kMelt);
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
@@ -99,7 +110,7 @@ void frmChangeOfState::cmdOk_Click() {
 // The short prompts stay when melting was chosen already; from boiling,
 // selecting melting puts the long ones back.
 void frmChangeOfState::cmdClear_Click() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the mass of the material.");
   ctl("Label2").SetCaption(ctl("opt1").Value() ? "Enter the heat of fusion" : "Enter the heat of vaporization.");
   ctl("Label3").SetCaption(std::string(kWeight));

@@ -17,7 +17,6 @@ class frmChangeOfState : public CalculatorScreen {
   void opt2_Click();
 
   void SetCaptions(std::string_view heat, std::string_view result);
-  void EmptyBoxes();
 };
 
 }  // namespace orv

@@ -25,28 +25,41 @@ constexpr std::string_view kMoles = "The number of moles is ";
 constexpr std::string_view kVolume = "The volume released is ";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 520, 60}},
-    {Kind::Option, "opt1", "Grams", {16, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Moles", {180, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt3", "Liters", {344, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Label, "Label1", "", {20, 90, 300, 22}},
-    {Kind::TextBox, "Text1", "", {324, 86, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label2", "", {20, 126, 300, 22}},
-    {Kind::TextBox, "Text2", "", {324, 122, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label3", "", {20, 162, 300, 22}},
-    {Kind::TextBox, "Text3", "", {324, 158, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label5", "", {20, 198, 300, 22}},
-    {Kind::TextBox, "Text5", "", {324, 194, 160, 26}, {}, {}, -1, 0, &kDigitsFilter},
-    {Kind::Label, "Label6", "", {20, 242, 300, 22}},
-    {Kind::TextBox, "Text6", "", {324, 238, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label4", "", {492, 242, 48, 22}},
-    {Kind::TextBox, "Text4", "", {20, 276, 520, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 320, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 320, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 320, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 320, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {508, 322, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {20, 8, 520, 60}},
+    {.kind = Kind::Option, .name = "opt1", .caption = "Grams", .rect = {16, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .caption = "Moles", .rect = {180, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt3", .caption = "Liters", .rect = {344, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label1", .rect = {20, 90, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {324, 86, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 126, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {324, 122, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 162, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {324, 158, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label5", .rect = {20, 198, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {324, 194, 160, 26}, .filter = &kDigitsFilter},
+    {.kind = Kind::Label, .name = "Label6", .rect = {20, 242, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {324, 238, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label4", .rect = {492, 242, 48, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {20, 276, 520, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {20, 320, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 320, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 320, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 320, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {508, 322, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
+
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text6", "Text4"};
 
 }  // namespace
 
@@ -66,8 +79,6 @@ frmFaradays::frmFaradays(Program& program)
 
 // Every box but the minutes, which the moles and liters modes hide with
 // their text kept.
-void frmFaradays::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text6", "Text4"}); }
-
 void frmFaradays::SetCaptions(std::string_view first, std::string_view second, std::string_view minutes,
                               std::string_view result, std::string_view unit) {
   ctl("Label1").SetCaption(std::string(first));
@@ -79,7 +90,7 @@ void frmFaradays::SetCaptions(std::string_view first, std::string_view second, s
 }
 
 void frmFaradays::Form_Load() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Text5").SetText("");
   SetCaptions(kCoulombs, kWeight, "Enter the minutes .", kGrams, "");
   ctl("Text5").SetVisible(true);
@@ -91,19 +102,19 @@ void frmFaradays::opt1_Click() {
   SetCaptions(kCoulombs, kWeight, "Enter the minutes.", kGrams, "grams ");
   ctl("Text5").SetVisible(true);
   ctl("Text5").SetText("");
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
 }
 
 void frmFaradays::opt2_Click() {
   SetCaptions(kAmps, kMinutes, "", kMoles, "moles");
   ctl("Text5").SetVisible(false);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
 }
 
 void frmFaradays::opt3_Click() {
   SetCaptions(kAmps, kMinutes, "", kVolume, "liters");
   ctl("Text5").SetVisible(false);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
 }
 
 // One formula serves every mode. Which form runs depends on the minutes box
@@ -150,7 +161,7 @@ void frmFaradays::cmdOk_Click() {
 // The mode stays selected, so its routine does not run again; the captions
 // written here keep their own wordings.
 void frmFaradays::cmdClear_Click() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   if (ctl("opt1").Value()) {
     SetCaptions(kCoulombs, kWeight, kMinutes, kGrams, "grams ");
     ctl("Text5").SetVisible(true);

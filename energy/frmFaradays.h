@@ -18,7 +18,6 @@ class frmFaradays : public CalculatorScreen {
   void opt2_Click();
   void opt3_Click();
 
-  void EmptyBoxes();
   void SetCaptions(std::string_view first, std::string_view second, std::string_view minutes, std::string_view result,
                    std::string_view unit);
 };

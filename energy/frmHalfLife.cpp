@@ -15,25 +15,38 @@ constexpr std::string_view kInitial = "Enter the initial quantity of material.";
 constexpr std::string_view kAllBoxes = "You must enter valid data in all boxes.";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following options", {20, 8, 500, 60}},
-    {Kind::Option, "opt1", "Time", {16, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Quantity", {180, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Label, "Label2", "", {20, 90, 280, 22}},
-    {Kind::TextBox, "Text1", "", {304, 86, 160, 26}, {}, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label3", "", {20, 126, 280, 22}},
-    {Kind::TextBox, "Text2", "", {304, 122, 160, 26}, {}, {}, -1, 0, &kFilterPlusPointE},
-    {Kind::Label, "Label5", "", {20, 162, 280, 22}},
-    {Kind::TextBox, "Text4", "", {304, 158, 160, 26}, {}, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label4", "", {20, 206, 280, 22}},
-    {Kind::TextBox, "Text3", "", {304, 202, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label6", "", {472, 206, 48, 22}},
-    {Kind::TextBox, "Text5", "", {20, 240, 500, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 284, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 284, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 284, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 284, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {488, 286, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following options", .rect = {20, 8, 500, 60}},
+    {.kind = Kind::Option, .name = "opt1", .caption = "Time", .rect = {16, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .caption = "Quantity", .rect = {180, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 90, 280, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {304, 86, 160, 26}, .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 126, 280, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {304, 122, 160, 26}, .filter = &kFilterPlusPointE},
+    {.kind = Kind::Label, .name = "Label5", .rect = {20, 162, 280, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {304, 158, 160, 26}, .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label4", .rect = {20, 206, 280, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {304, 202, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label6", .rect = {472, 206, 48, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {20, 240, 500, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {20, 284, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 284, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 284, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 284, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {488, 286, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
+
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 
 }  // namespace
 
@@ -50,8 +63,6 @@ frmHalfLife::frmHalfLife(Program& program)
   EnterRunsOk("Text4");
 }
 
-void frmHalfLife::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
-
 void frmHalfLife::SetCaptions(std::string_view result, std::string_view last, std::string_view unit) {
   ctl("Label2").SetCaption(std::string(kHalfLife));
   ctl("Label3").SetCaption(std::string(kInitial));
@@ -62,20 +73,20 @@ void frmHalfLife::SetCaptions(std::string_view result, std::string_view last, st
 
 void frmHalfLife::Form_Load() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions("The time required is", "Enter the final quantity", "years");
   DisableOkAndPrint();
 }
 
 void frmHalfLife::opt1_Click() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions("The time required is", "Enter the final quantity", "years");
 }
 
 void frmHalfLife::opt2_Click() {
   ctl("opt2").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   SetCaptions("The final quantity is ", "Enter the time period. ", "atoms");
 }
 
@@ -107,7 +118,7 @@ void frmHalfLife::cmdOk_Click() {
 
 void frmHalfLife::cmdClear_Click() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label2").SetCaption(std::string(kHalfLife));
   ctl("Label3").SetCaption(std::string(kInitial));
   ctl("Label5").SetCaption("Enter the final quantity.");

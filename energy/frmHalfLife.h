@@ -16,7 +16,6 @@ class frmHalfLife : public CalculatorScreen {
   void opt1_Click();
   void opt2_Click();
 
-  void EmptyBoxes();
   void SetCaptions(std::string_view result, std::string_view last, std::string_view unit);
 };
 

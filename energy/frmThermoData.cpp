@@ -29,28 +29,45 @@ constexpr std::string_view kFreeEnergy = "The free energy for the reaction is ";
 constexpr std::string_view kAllBoxes = "You must enter a valid value in all boxes.";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 540, 60}},
-    {Kind::Option, "opt1", "Enthalpy", {16, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Entropy", {180, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt3", "Gibbs Free Energy", {344, 28, 180, 24}, {}, "Frame1"},
-    {Kind::Label, "Label1", "", {20, 90, 340, 22}},
-    {Kind::TextBox, "Text1", "", {364, 86, 196, 26}, {}, {}, -1, 0, &kThermoFilter},
-    {Kind::Label, "Label2", "", {20, 126, 340, 22}},
-    {Kind::TextBox, "Text2", "", {364, 122, 196, 26}, {}, {}, -1, 0, &kThermoFilter},
-    {Kind::Label, "Label3", "", {20, 162, 340, 22}},
-    {Kind::TextBox, "Text3", "", {364, 158, 80, 26}, {}, {}, -1, 0, &kThermoFilter},
-    {Kind::Label, "Label5", "", {444, 162, 36, 22}, {}, {}, -1, kCenter},
-    {Kind::TextBox, "Text5", "", {480, 158, 80, 26}, {}, {}, -1, 0, &kThermoDigitsFilter},
-    {Kind::Label, "Label4", "", {20, 206, 340, 22}},
-    {Kind::TextBox, "Text4", "", {364, 202, 150, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label6", "", {520, 206, 40, 22}},
-    {Kind::TextBox, "Text6", "", {20, 240, 540, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 284, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 284, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 284, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 284, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {528, 286, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {20, 8, 540, 60}},
+    {.kind = Kind::Option, .name = "opt1", .caption = "Enthalpy", .rect = {16, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .caption = "Entropy", .rect = {180, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option,
+     .name = "opt3",
+     .caption = "Gibbs Free Energy",
+     .rect = {344, 28, 180, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label1", .rect = {20, 90, 340, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {364, 86, 196, 26}, .filter = &kThermoFilter},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 126, 340, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {364, 122, 196, 26}, .filter = &kThermoFilter},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 162, 340, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {364, 158, 80, 26}, .filter = &kThermoFilter},
+    {.kind = Kind::Label, .name = "Label5", .rect = {444, 162, 36, 22}, .flags = kCenter},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {480, 158, 80, 26}, .filter = &kThermoDigitsFilter},
+    {.kind = Kind::Label, .name = "Label4", .rect = {20, 206, 340, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {364, 202, 150, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label6", .rect = {520, 206, 40, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {20, 240, 540, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {20, 284, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 284, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 284, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 284, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {528, 286, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
+
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 
 }  // namespace
 
@@ -69,12 +86,10 @@ frmThermoData::frmThermoData(Program& program)
   EnterRunsOk("Text5");
 }
 
-void frmThermoData::EmptyBoxes() { Form::EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"}); }
-
 // The short prompts set here give way at once to those of the enthalpy mode,
 // whose routine runs when it is selected.
 void frmThermoData::Form_Load() {
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the enthalpy value for the reactant.");
   ctl("Label2").SetCaption("Enter the enthalpy value for the product.");
   ctl("Label3").SetCaption(std::string(kRatio));
@@ -180,7 +195,7 @@ void frmThermoData::cmdClear_Click() {
     ctl("Label4").SetCaption(std::string(kEnthalpyChange));
     ctl("Label5").SetCaption(" To ");
     ctl("Label6").SetCaption("kJ");
-    EmptyBoxes();
+    EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text5").SetVisible(true);
     ctl("opt1").SetValue(true);
@@ -190,7 +205,7 @@ void frmThermoData::cmdClear_Click() {
     ctl("Label3").SetCaption("");
     ctl("Label4").SetCaption(std::string(kOverall));
     ctl("Label5").SetCaption("");
-    EmptyBoxes();
+    EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text3").SetVisible(false);
     ctl("Text5").SetVisible(false);
@@ -201,7 +216,7 @@ void frmThermoData::cmdClear_Click() {
     ctl("Label3").SetCaption(std::string(kReactionEntropy));
     ctl("Label4").SetCaption(std::string(kFreeEnergy));
     ctl("Label5").SetCaption("");
-    EmptyBoxes();
+    EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text3").SetVisible(true);
     ctl("Text5").SetVisible(false);

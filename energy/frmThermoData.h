@@ -17,8 +17,6 @@ class frmThermoData : public CalculatorScreen {
   void opt1_Click();
   void opt2_Click();
   void opt3_Click();
-
-  void EmptyBoxes();
 };
 
 }  // namespace orv

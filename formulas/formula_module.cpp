@@ -18,6 +18,17 @@ int DigitValue(std::string_view c) { return c[0] - '0'; }
 // letters.
 bool IsOwnCapital(std::string_view c) { return !(c.size() == 1 && c[0] >= 'a' && c[0] <= 'z'); }
 
+// The scanners' own error trap: a run-time error shows its words in a message
+// box and ends the body.
+template <class Fn>
+void Trapped(MessageService& messages, Fn&& body) {
+  try {
+    body();
+  } catch (const RuntimeError& e) {
+    messages.Show(e.words(), Icon::Information, kTitle);
+  }
+}
+
 // The character at a position from 1 on; past the end it is the empty text.
 // Position 0 is an invalid argument, as it is to Mid.
 std::string CharAt(std::string_view s, int position) {
@@ -78,7 +89,7 @@ void FormulaModule::SumWeights() {
 
 // --- the weight scanner ---
 
-void FormulaModule::ScanWeights(Form& form, data::DataStore& store, int L, std::string& HydrateCount,
+void FormulaModule::ScanWeights(MessageService& messages, data::DataStore& store, int L, std::string& HydrateCount,
                                 const GroupWeight& Weight) {
   int i = 1;
   while (i <= Len(FormulaText)) {
@@ -133,7 +144,7 @@ void FormulaModule::ScanWeights(Form& form, data::DataStore& store, int L, std::
         i = close + 1;
       }
     } else if (c.size() == 1 && c[0] >= 'A' && c[0] <= 'Z') {
-      PushValue = AtomicWeightOf(form, store, SymbolAt(FormulaText, i)).value();
+      PushValue = AtomicWeightOf(messages, store, SymbolAt(FormulaText, i)).value();
       PushWeight();
     }
     if (i == L) break;
@@ -146,8 +157,8 @@ void FormulaModule::ScanWeights(Form& form, data::DataStore& store, int L, std::
 
 std::string FormulaModule::SideSymbol(int r) const { return Str(SideAtoms[static_cast<std::size_t>(r - 1)][0]); }
 
-void FormulaModule::ParseSide(Form& form, data::DataStore& store, const std::string& Side) {
-  form.Trapped(kTrapWordsInfo, [&] {
+void FormulaModule::ParseSide(MessageService& messages, data::DataStore& store, const std::string& Side) {
+  Trapped(messages, [&] {
     for (auto& row : SideAtoms) row = {Variant(""), Variant("")};
     std::array<std::string, 4> molecules;
     for (Integer& count : SideCounts) count = Expr(0);
@@ -178,7 +189,7 @@ void FormulaModule::ParseSide(Form& form, data::DataStore& store, const std::str
           Variant& cell = SideAtoms[static_cast<std::size_t>(AtomRow.value() - 1)][0];
           if (Str(cell) == symbol) break;
           if (Str(cell).empty()) {
-            if (symbol != " " && symbol != "+" && IsElement(form, store, symbol)) cell = symbol;
+            if (symbol != " " && symbol != "+" && IsElement(messages, store, symbol)) cell = symbol;
             break;
           }
         }
@@ -187,14 +198,14 @@ void FormulaModule::ParseSide(Form& form, data::DataStore& store, const std::str
 
     for (const std::string& molecule : molecules) {
       if (molecule.empty()) continue;
-      CountAtoms(form, molecule);
+      CountAtoms(messages, molecule);
       for (std::size_t k = 0; k < SideCounts.size(); ++k) SideCounts[k] += MoleculeCounts[k];
     }
   });
 }
 
-void FormulaModule::CountAtoms(Form& form, const std::string& Molecule) {
-  form.Trapped(kTrapWordsInfo, [&] {
+void FormulaModule::CountAtoms(MessageService& messages, const std::string& Molecule) {
+  Trapped(messages, [&] {
     for (AtomRow = Expr(1); AtomRow.value() <= kSideRows; ++AtomRow) {
       const int k = AtomRow.value();
       Integer& count = MoleculeCounts[static_cast<std::size_t>(k - 1)];
@@ -259,9 +270,9 @@ void FormulaModule::CountAtoms(Form& form, const std::string& Molecule) {
 
 // --- element look-ups ---
 
-Double AtomicWeightOf(Form& form, data::DataStore& store, const std::string& Symbol) {
+Double AtomicWeightOf(MessageService& messages, data::DataStore& store, const std::string& Symbol) {
   Double weight;
-  form.Trapped(kTrapWordsInfo, [&] {
+  Trapped(messages, [&] {
     for (int r = ElementsTable::kFirstRow; r <= ElementsTable::kLastRow; ++r) {
       if (Str(store.Elements.At(r, ElementsTable::kSymbolColumn)) == Symbol) {
         weight = CDbl(store.Elements.At(r, ElementsTable::kWeightColumn));
@@ -272,9 +283,9 @@ Double AtomicWeightOf(Form& form, data::DataStore& store, const std::string& Sym
   return weight;
 }
 
-bool IsElement(Form& form, data::DataStore& store, const std::string& Symbol) {
+bool IsElement(MessageService& messages, data::DataStore& store, const std::string& Symbol) {
   bool found = false;
-  form.Trapped(kTrapWordsInfo, [&] {
+  Trapped(messages, [&] {
     data::FillElementSymbols(store);
     for (int r = ElementsTable::kFirstRow; r <= ElementsTable::kLastRow; ++r) {
       if (Str(store.Elements.At(r, ElementsTable::kSymbolColumn)) == Symbol) {

@@ -19,7 +19,7 @@
 
 namespace orv {
 
-class Form;
+class MessageService;
 
 // The weight of a group such as "SO4" from the table of molecular weights:
 // the molecular weight screen's Weight. Leaves Result as it is when the table
@@ -64,14 +64,16 @@ struct FormulaModule {
   // The weight scanner over FormulaText, ending with SumWeights. L is the
   // length of the formula box's text; HydrateCount is the screen's count of
   // waters, which a point sets. Run-time errors go to the caller.
-  void ScanWeights(Form& form, data::DataStore& store, int L, std::string& HydrateCount, const GroupWeight& Weight);
+  void ScanWeights(MessageService& messages, data::DataStore& store, int L, std::string& HydrateCount,
+                   const GroupWeight& Weight);
 
   // The atom counter: fills SideAtoms and SideCounts for one side of an
-  // equation (own error trap).
-  void ParseSide(Form& form, data::DataStore& store, const std::string& Side);
+  // equation (own error trap). The routines with their own trap show the
+  // words of a run-time error that ends them in a message box.
+  void ParseSide(MessageService& messages, data::DataStore& store, const std::string& Side);
   // Counts each symbol of SideAtoms in one molecule into MoleculeCounts (own
   // error trap).
-  void CountAtoms(Form& form, const std::string& Molecule);
+  void CountAtoms(MessageService& messages, const std::string& Molecule);
 
   // The symbol of row r (from 1) of SideAtoms, "" when the row is empty.
   std::string SideSymbol(int r) const;
@@ -79,11 +81,11 @@ struct FormulaModule {
 
 // The atomic weight of the symbol from Elements (capitals count), 0 when no
 // row holds it. Own error trap.
-Double AtomicWeightOf(Form& form, data::DataStore& store, const std::string& Symbol);
+Double AtomicWeightOf(MessageService& messages, data::DataStore& store, const std::string& Symbol);
 
 // Whether the symbol is an element's: reloads the symbols of Elements from
 // the database first. Own error trap; an error gives false.
-bool IsElement(Form& form, data::DataStore& store, const std::string& Symbol);
+bool IsElement(MessageService& messages, data::DataStore& store, const std::string& Symbol);
 
 // The text without its blanks and "+" signs.
 std::string StripSeparators(std::string_view Text);

@@ -11,36 +11,28 @@ constexpr KeyFilter kFilterDigits{"", kTitle};
 
 // clang-format off
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label1", "Enter data from a BALANCED equation in all boxes except the gram entry you wish to find.",
-     {20, 14, 648, 22}},
-    {Kind::Label, "Label15", "Coefficient for the reactant.", {20, 52, 210, 22}},
-    {Kind::TextBox, "Text14", "", {236, 48, 96, 26}, "Enter the coefficient of one of the reactant molecules.", {}, -1,
-     0, &kFilterDigits},
-    {Kind::Label, "Label2", "Grams of the reactant", {20, 88, 210, 22}},
-    {Kind::TextBox, "Text1", "", {236, 84, 96, 26}, "Enter a valid number unless you wish to find this value.", {}, -1,
-     0, &kFilterSignsPointE},
-    {Kind::Label, "Label3", "Molecular weight of the reactant", {20, 124, 210, 22}},
-    {Kind::TextBox, "Text6", "", {236, 120, 96, 26}, "Enter the molecular weight of the reactant molecule.", {}, -1, 0,
-     &kFilterPoint},
-    {Kind::Label, "Label18", "Coefficient for the product.", {356, 52, 210, 22}},
-    {Kind::TextBox, "Text17", "", {572, 48, 96, 26}, "Enter the coefficient of the other molecule.", {}, -1, 0,
-     &kFilterDigits},
-    {Kind::Label, "Label4", "Grams of the product", {356, 88, 210, 22}},
-    {Kind::TextBox, "Text4", "", {572, 84, 96, 26},
-     "Enter a valid number if other gram entry is empty or leave empty if you wish to find this value.", {}, -1, 0,
-     &kFilterSignsPointE},
-    {Kind::Label, "Label5", "Molecular weight of the product", {356, 124, 210, 22}},
-    {Kind::TextBox, "Text9", "", {572, 120, 96, 26}, "Enter the molecular weight of the other molecule.", {}, -1, 0,
-     &kFilterPoint},
-    {Kind::Label, "Label14", "The result is ", {20, 172, 210, 22}},
-    {Kind::TextBox, "Text13", "", {236, 168, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label22", "grams", {404, 172, 80, 22}},
-    {Kind::TextBox, "Text2", "", {20, 206, 648, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 252, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 252, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 252, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 252, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {636, 254, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Enter data from a BALANCED equation in all boxes except the gram entry you wish to find.", .rect = {20, 14, 648, 22}},
+    {.kind = Kind::Label, .name = "Label15", .caption = "Coefficient for the reactant.", .rect = {20, 52, 210, 22}},
+    {.kind = Kind::TextBox, .name = "Text14", .rect = {236, 48, 96, 26}, .toolTip = "Enter the coefficient of one of the reactant molecules.", .filter = &kFilterDigits},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Grams of the reactant", .rect = {20, 88, 210, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {236, 84, 96, 26}, .toolTip = "Enter a valid number unless you wish to find this value.", .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label3", .caption = "Molecular weight of the reactant", .rect = {20, 124, 210, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {236, 120, 96, 26}, .toolTip = "Enter the molecular weight of the reactant molecule.", .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label18", .caption = "Coefficient for the product.", .rect = {356, 52, 210, 22}},
+    {.kind = Kind::TextBox, .name = "Text17", .rect = {572, 48, 96, 26}, .toolTip = "Enter the coefficient of the other molecule.", .filter = &kFilterDigits},
+    {.kind = Kind::Label, .name = "Label4", .caption = "Grams of the product", .rect = {356, 88, 210, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {572, 84, 96, 26}, .toolTip = "Enter a valid number if other gram entry is empty or leave empty if you wish to find this value.", .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label5", .caption = "Molecular weight of the product", .rect = {356, 124, 210, 22}},
+    {.kind = Kind::TextBox, .name = "Text9", .rect = {572, 120, 96, 26}, .toolTip = "Enter the molecular weight of the other molecule.", .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label14", .caption = "The result is ", .rect = {20, 172, 210, 22}},
+    {.kind = Kind::TextBox, .name = "Text13", .rect = {236, 168, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label22", .caption = "grams", .rect = {404, 172, 80, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {20, 206, 648, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 252, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 252, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 252, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 252, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {636, 254, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
 };
 // clang-format on
 
@@ -65,9 +57,7 @@ frmMass::frmMass(Program& program)
 void frmMass::ClearBoxes() {
   ctl("Text1").SetEnabled(true);
   ctl("Text4").SetEnabled(true);
-  for (std::string_view box : {"Text1", "Text2", "Text4", "Text6", "Text9", "Text13", "Text14", "Text17"}) {
-    ctl(box).SetText("");
-  }
+  EmptyBoxes({"Text1", "Text2", "Text4", "Text6", "Text9", "Text13", "Text14", "Text17"});
 }
 
 void frmMass::Form_Load() {

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "data/store.h"
 #include "formulas/formula_module.h"
 #include "shell/rich_text.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 
@@ -16,26 +16,35 @@ constexpr int kRows = FormulaModule::kSideRows;
 
 // One row of a column: the symbol's label and the count's box.
 constexpr ControlSpec SymbolLabel(std::string_view frame, std::string_view name, int k) {
-  return {Kind::Label, name, "", {16, 30 + k * 33, 54, 24}, {}, frame, k, kCenter | kBold};
+  return {.kind = Kind::Label,
+          .name = name,
+          .rect = {16, 30 + k * 33, 54, 24},
+          .container = frame,
+          .index = k,
+          .flags = kCenter | kBold};
 }
 constexpr ControlSpec CountBox(std::string_view frame, std::string_view name, int k) {
-  return {Kind::TextBox, name, "", {76, 28 + k * 33, 78, 26}, {}, frame, k, kDisabled | kRightAlign};
+  return {.kind = Kind::TextBox,
+          .name = name,
+          .rect = {76, 28 + k * 33, 78, 26},
+          .container = frame,
+          .index = k,
+          .flags = kDisabled | kRightAlign};
 }
 
 // clang-format off
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label1", "Enter a chemical reaction to balance", {20, 14, 400, 22}},
-    {Kind::Label, "Label4", "Ex.  CO2 + H2O => C6H12O6 + O2", {20, 38, 400, 22}},
-    {Kind::RichText, "RichTextBox1", "", {20, 64, 672, 30},
-     "Be careful to enter the equation as in the example above using the = sign and the > sign."},
-    {Kind::Frame, "fraFrame1", "Atoms on the left", {20, 108, 170, 236}},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Enter a chemical reaction to balance", .rect = {20, 14, 400, 22}},
+    {.kind = Kind::Label, .name = "Label4", .caption = "Ex.  CO2 + H2O => C6H12O6 + O2", .rect = {20, 38, 400, 22}},
+    {.kind = Kind::RichText, .name = "RichTextBox1", .rect = {20, 64, 672, 30}, .toolTip = "Be careful to enter the equation as in the example above using the = sign and the > sign."},
+    {.kind = Kind::Frame, .name = "fraFrame1", .caption = "Atoms on the left", .rect = {20, 108, 170, 236}},
     SymbolLabel("fraFrame1", "Label2", 0), CountBox("fraFrame1", "Text1", 0),
     SymbolLabel("fraFrame1", "Label2", 1), CountBox("fraFrame1", "Text1", 1),
     SymbolLabel("fraFrame1", "Label2", 2), CountBox("fraFrame1", "Text1", 2),
     SymbolLabel("fraFrame1", "Label2", 3), CountBox("fraFrame1", "Text1", 3),
     SymbolLabel("fraFrame1", "Label2", 4), CountBox("fraFrame1", "Text1", 4),
     SymbolLabel("fraFrame1", "Label2", 5), CountBox("fraFrame1", "Text1", 5),
-    {Kind::Frame, "fraFrame2", "Atoms on the right", {204, 108, 170, 236}},
+    {.kind = Kind::Frame, .name = "fraFrame2", .caption = "Atoms on the right", .rect = {204, 108, 170, 236}},
     SymbolLabel("fraFrame2", "Label3", 0), CountBox("fraFrame2", "Text2", 0),
     SymbolLabel("fraFrame2", "Label3", 1), CountBox("fraFrame2", "Text2", 1),
     SymbolLabel("fraFrame2", "Label3", 2), CountBox("fraFrame2", "Text2", 2),
@@ -43,16 +52,16 @@ constexpr ControlSpec kControls[] = {
     SymbolLabel("fraFrame2", "Label3", 4), CountBox("fraFrame2", "Text2", 4),
     SymbolLabel("fraFrame2", "Label3", 5), CountBox("fraFrame2", "Text2", 5),
     // The hints: read-only boxes, filled by Form_Load.
-    {Kind::Label, "txtReactions2", "", {392, 116, 300, 30}, {}, {}, -1, kBorder},
-    {Kind::Label, "txtReactions3", "", {392, 154, 300, 30}, {}, {}, -1, kBorder},
-    {Kind::Label, "txtReactions4", "", {392, 192, 300, 30}, {}, {}, -1, kBorder},
-    {Kind::Label, "txtReactions5", "", {392, 230, 300, 30}, {}, {}, -1, kBorder},
-    {Kind::Label, "txtReactions6", "", {392, 268, 300, 30}, {}, {}, -1, kBorder},
-    {Kind::Button, "cmdOk", "Ok", {20, 362, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 362, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 362, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 362, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {660, 364, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "txtReactions2", .rect = {392, 116, 300, 30}, .flags = kBorder},
+    {.kind = Kind::Label, .name = "txtReactions3", .rect = {392, 154, 300, 30}, .flags = kBorder},
+    {.kind = Kind::Label, .name = "txtReactions4", .rect = {392, 192, 300, 30}, .flags = kBorder},
+    {.kind = Kind::Label, .name = "txtReactions5", .rect = {392, 230, 300, 30}, .flags = kBorder},
+    {.kind = Kind::Label, .name = "txtReactions6", .rect = {392, 268, 300, 30}, .flags = kBorder},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 362, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 362, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 362, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 362, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {660, 364, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
 };
 // clang-format on
 
@@ -139,9 +148,9 @@ void frmReactions::cmdOk_Click() {
     }
     // The character behind "=" is skipped unseen: ">" must follow at once.
     const int p = InStr(text, "=");
-    m.ParseSide(*this, Store(program()), Left(text, p - 1));
+    m.ParseSide(program().messages(), Store(program()), Left(text, p - 1));
     ShowSide("Label2", "Text1");
-    m.ParseSide(*this, Store(program()), Mid(text, p + 2));
+    m.ParseSide(program().messages(), Store(program()), Mid(text, p + 2));
     ShowSide("Label3", "Text2");
 
     // The left column's total, which nothing uses.

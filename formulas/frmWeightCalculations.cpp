@@ -8,26 +8,26 @@ namespace {
 
 // clang-format off
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label1", "Enter the molecular weight", {20, 22, 200, 22}},
-    {Kind::TextBox, "Text1", "", {224, 18, 160, 26}, {}, {}, -1, 0, &kFilterPointEe},
-    {Kind::Label, "Label2", "Enter the quantity in question", {20, 58, 200, 22}},
-    {Kind::TextBox, "Text2", "", {224, 54, 160, 26}, {}, {}, -1, 0, &kFilterPointEe},
-    {Kind::Frame, "Frame1", "Select the unit for the quantity", {20, 96, 212, 120}},
-    {Kind::Option, "Option1", "Molecules", {16, 28, 180, 24}, {}, "Frame1"},
-    {Kind::Option, "Option2", "Grams", {16, 56, 180, 24}, {}, "Frame1"},
-    {Kind::Option, "Option3", "Moles", {16, 84, 180, 24}, {}, "Frame1"},
-    {Kind::Frame, "Frame2", "Select the desired unit", {244, 96, 212, 120}},
-    {Kind::Option, "Option4", "Molecules", {16, 28, 180, 24}, {}, "Frame2"},
-    {Kind::Option, "Option5", "Grams", {16, 56, 180, 24}, {}, "Frame2"},
-    {Kind::Option, "Option6", "Moles", {16, 84, 180, 24}, {}, "Frame2"},
-    {Kind::Label, "Label3", "The number of molecules is ", {20, 238, 200, 22}},
-    {Kind::TextBox, "Text3", "", {224, 234, 232, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text4", "", {20, 270, 436, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 316, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 316, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 316, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 316, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {424, 318, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Enter the molecular weight", .rect = {20, 22, 200, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {224, 18, 160, 26}, .filter = &kFilterPointEe},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Enter the quantity in question", .rect = {20, 58, 200, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {224, 54, 160, 26}, .filter = &kFilterPointEe},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select the unit for the quantity", .rect = {20, 96, 212, 120}},
+    {.kind = Kind::Option, .name = "Option1", .caption = "Molecules", .rect = {16, 28, 180, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "Option2", .caption = "Grams", .rect = {16, 56, 180, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "Option3", .caption = "Moles", .rect = {16, 84, 180, 24}, .container = "Frame1"},
+    {.kind = Kind::Frame, .name = "Frame2", .caption = "Select the desired unit", .rect = {244, 96, 212, 120}},
+    {.kind = Kind::Option, .name = "Option4", .caption = "Molecules", .rect = {16, 28, 180, 24}, .container = "Frame2"},
+    {.kind = Kind::Option, .name = "Option5", .caption = "Grams", .rect = {16, 56, 180, 24}, .container = "Frame2"},
+    {.kind = Kind::Option, .name = "Option6", .caption = "Moles", .rect = {16, 84, 180, 24}, .container = "Frame2"},
+    {.kind = Kind::Label, .name = "Label3", .caption = "The number of molecules is ", .rect = {20, 238, 200, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {224, 234, 232, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {20, 270, 436, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 316, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 316, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 316, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 316, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {424, 318, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
 };
 // clang-format on
 
@@ -55,7 +55,7 @@ frmWeightCalculations::frmWeightCalculations(Program& program)
 }
 
 void frmWeightCalculations::Form_Load() {
-  for (std::string_view box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("Option1").SetValue(true);
   ctl("Option4").SetValue(true);
   ctl("Label3").SetCaption("The number of molecules is ");

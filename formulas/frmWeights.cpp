@@ -1,8 +1,8 @@
 #include "formulas/frmWeights.h"
 
+#include "data/store.h"
 #include "formulas/formula_module.h"
 #include "shell/rich_text.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 
@@ -12,27 +12,27 @@ constexpr int kCompositionBoxes = 6;
 
 // clang-format off
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "lblWeights1", "Enter Formula", {20, 22, 220, 22}},
-    {Kind::RichText, "RichTextBox1", "", {244, 16, 256, 30}, "Here is an example of an entry: 2Mn(NO3)2.10H20"},
-    {Kind::Label, "lblWeights2", "The weight is", {20, 62, 220, 22}},
-    {Kind::TextBox, "txtWeights2", "", {244, 58, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label1", "One mole of the substance weighs ", {20, 98, 220, 22}},
-    {Kind::TextBox, "Text1", "", {244, 94, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label2", "grams", {412, 98, 88, 22}},
-    {Kind::CheckBox, "chk1", "Check if you want % composition (6 elements  maximum)", {20, 136, 480, 24}},
-    {Kind::TextBox, "txtComposition", "", {20, 166, 72, 26}, {}, {}, 0, kDisabled},
-    {Kind::TextBox, "txtComposition", "", {100, 166, 72, 26}, {}, {}, 1, kDisabled},
-    {Kind::TextBox, "txtComposition", "", {180, 166, 72, 26}, {}, {}, 2, kDisabled},
-    {Kind::TextBox, "txtComposition", "", {260, 166, 72, 26}, {}, {}, 3, kDisabled},
-    {Kind::TextBox, "txtComposition", "", {340, 166, 72, 26}, {}, {}, 4, kDisabled},
-    {Kind::TextBox, "txtComposition", "", {420, 166, 80, 26}, {}, {}, 5, kDisabled},
-    {Kind::CheckBox, "chk2", "Check for % Hydrate", {20, 206, 220, 24}},
-    {Kind::TextBox, "txtHydrate", "", {244, 204, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 252, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 252, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 252, 80, 30}},
-    {Kind::Button, "cmdPrint", "Print", {284, 252, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {468, 254, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "lblWeights1", .caption = "Enter Formula", .rect = {20, 22, 220, 22}},
+    {.kind = Kind::RichText, .name = "RichTextBox1", .rect = {244, 16, 256, 30}, .toolTip = "Here is an example of an entry: 2Mn(NO3)2.10H20"},
+    {.kind = Kind::Label, .name = "lblWeights2", .caption = "The weight is", .rect = {20, 62, 220, 22}},
+    {.kind = Kind::TextBox, .name = "txtWeights2", .rect = {244, 58, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label1", .caption = "One mole of the substance weighs ", .rect = {20, 98, 220, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {244, 94, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label2", .caption = "grams", .rect = {412, 98, 88, 22}},
+    {.kind = Kind::CheckBox, .name = "chk1", .caption = "Check if you want % composition (6 elements  maximum)", .rect = {20, 136, 480, 24}},
+    {.kind = Kind::TextBox, .name = "txtComposition", .rect = {20, 166, 72, 26}, .index = 0, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "txtComposition", .rect = {100, 166, 72, 26}, .index = 1, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "txtComposition", .rect = {180, 166, 72, 26}, .index = 2, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "txtComposition", .rect = {260, 166, 72, 26}, .index = 3, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "txtComposition", .rect = {340, 166, 72, 26}, .index = 4, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "txtComposition", .rect = {420, 166, 80, 26}, .index = 5, .flags = kDisabled},
+    {.kind = Kind::CheckBox, .name = "chk2", .caption = "Check for % Hydrate", .rect = {20, 206, 220, 24}},
+    {.kind = Kind::TextBox, .name = "txtHydrate", .rect = {244, 204, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 252, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 252, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 252, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 252, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {468, 254, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
 };
 // clang-format on
 
@@ -195,7 +195,7 @@ void frmWeights::cmdOk_Click() {
       return;
     }
 
-    m.ScanWeights(*this, Store(program()), L, HydrateCount,
+    m.ScanWeights(program().messages(), Store(program()), L, HydrateCount,
                   [this](const std::string& Substance, Single& Result) { Weight(Substance, Result); });
     if (CDbl(m.FormulaCoefficient).value() == 0) m.FormulaCoefficient = "1";
 

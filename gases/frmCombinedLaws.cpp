@@ -1,6 +1,6 @@
 #include "gases/frmCombinedLaws.h"
 
-#include "shell/screens/module1.h"
+#include "data/store.h"
 
 namespace orv {
 
@@ -16,29 +16,34 @@ constexpr std::string_view kHelp =
     "with two changes - one caused by Charles law and one caused by Boyles law. ";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::CheckBox, "chk1", "Check if collected over water.", {20, 12, 300, 24}},
-    {Kind::Label, "Label2", "Original volume in liters", {20, 50, 250, 22}},
-    {Kind::TextBox, "Text1", "", {280, 46, 180, 26}, {}, {}, -1, 0, &kFilterPointCombined},
-    {Kind::Label, "Label3", "Original pressure in kPa", {20, 86, 250, 22}},
-    {Kind::TextBox, "Text2", "", {280, 82, 180, 26}, {}, {}, -1, 0, &kFilterPointCombined},
-    {Kind::Label, "Label5", "Original temperature in Kelvin", {20, 122, 250, 22}},
-    {Kind::TextBox, "Text3", "", {280, 118, 180, 26}, {}, {}, -1, 0, &kFilterMinusPointCombined},
-    {Kind::Label, "Label4", "New pressure in kPa", {20, 158, 250, 22}},
-    {Kind::TextBox, "Text4", "", {280, 154, 180, 26}, {}, {}, -1, 0, &kFilterPointCombined},
-    {Kind::Label, "Label6", "New temperature in Kelvin", {20, 194, 250, 22}},
-    {Kind::TextBox, "Text5", "", {280, 190, 180, 26}, {}, {}, -1, 0, &kFilterMinusPointCombined},
-    {Kind::Label, "Label8", "The new volume is", {20, 234, 250, 22}},
-    {Kind::TextBox, "Text7", "", {280, 230, 120, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label7", "Liters", {406, 234, 56, 22}},
-    {Kind::TextBox, "Text6", "", {20, 268, 440, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 312, 80, 30}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 312, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 312, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 312, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {428, 314, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::CheckBox, .name = "chk1", .caption = "Check if collected over water.", .rect = {20, 12, 300, 24}},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Original volume in liters", .rect = {20, 50, 250, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {280, 46, 180, 26}, .filter = &kFilterPointCombined},
+    {.kind = Kind::Label, .name = "Label3", .caption = "Original pressure in kPa", .rect = {20, 86, 250, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {280, 82, 180, 26}, .filter = &kFilterPointCombined},
+    {.kind = Kind::Label, .name = "Label5", .caption = "Original temperature in Kelvin", .rect = {20, 122, 250, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {280, 118, 180, 26}, .filter = &kFilterMinusPointCombined},
+    {.kind = Kind::Label, .name = "Label4", .caption = "New pressure in kPa", .rect = {20, 158, 250, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {280, 154, 180, 26}, .filter = &kFilterPointCombined},
+    {.kind = Kind::Label, .name = "Label6", .caption = "New temperature in Kelvin", .rect = {20, 194, 250, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {280, 190, 180, 26}, .filter = &kFilterMinusPointCombined},
+    {.kind = Kind::Label, .name = "Label8", .caption = "The new volume is", .rect = {20, 234, 250, 22}},
+    {.kind = Kind::TextBox, .name = "Text7", .rect = {280, 230, 120, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label7", .caption = "Liters", .rect = {406, 234, 56, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {20, 268, 440, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 312, 80, 30}, .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 312, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 312, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 312, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {428, 314, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
-constexpr const char* kInputs[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
+constexpr std::string_view kInputs[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};
 
 }  // namespace
 
@@ -48,11 +53,11 @@ frmCombinedLaws::frmCombinedLaws(Program& program)
   Bind("Form", Ev::Load, &frmCombinedLaws::Form_Load);
   Bind("cmdOk", Ev::Click, &frmCombinedLaws::cmdOk_Click);
   Bind("cmdClear", Ev::Click, &frmCombinedLaws::cmdClear_Click);
-  for (const char* box : kInputs) EnterRunsOk(box);
+  for (std::string_view box : kInputs) EnterRunsOk(box);
 }
 
 void frmCombinedLaws::Form_Load() {
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   ctl("Text6").SetText("");
   ctl("chk1").SetValue(false);
   DisableOkAndPrint();
@@ -63,7 +68,7 @@ void frmCombinedLaws::cmdOk_Click() {
     // One test of all five together: a single filled box lets the routine
     // go on, and an empty one then fails where it is read.
     bool allEmpty = true;
-    for (const char* box : kInputs) allEmpty = allEmpty && ctl(box).Text().empty();
+    for (std::string_view box : kInputs) allEmpty = allEmpty && ctl(box).Text().empty();
     if (allEmpty) {
       MsgBox("You must enter valid data into all required boxes.", Icon::None, kCombinedTitle);
       return;
@@ -108,7 +113,7 @@ void frmCombinedLaws::cmdOk_Click() {
 }
 
 void frmCombinedLaws::cmdClear_Click() {
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   EmptyBoxes({"Text7", "Text6"});
   ctl("Text1").SetFocus();
   ctl("chk1").SetValue(false);

@@ -1,6 +1,6 @@
 #include "gases/frmDalton.h"
 
-#include "shell/screens/module1.h"
+#include "data/store.h"
 
 namespace orv {
 
@@ -15,26 +15,42 @@ constexpr std::string_view kRequired = "You must enter valid data into all requi
 constexpr std::string_view kFinalPressure = "Enter the final pressure in kPa";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 460, 60}},
-    {Kind::Option, "opt1", "Calculate volume", {16, 28, 190, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Calculate pressure", {230, 28, 200, 24}, {}, "Frame1"},
-    {Kind::Label, "Label1", "Enter the initial temperature in Celsius.", {20, 90, 290, 22}},
-    {Kind::TextBox, "Text1", "", {320, 86, 160, 26}, {}, {}, -1, 0, &kFilterMinusPoint},
-    {Kind::Label, "Label2", "", {20, 126, 290, 22}},
-    {Kind::TextBox, "Text2", "", {320, 122, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label3", "", {20, 162, 290, 22}},
-    {Kind::TextBox, "Text3", "", {320, 158, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label5", "", {20, 198, 290, 22}},
-    {Kind::TextBox, "Text5", "", {320, 194, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label6", "", {20, 238, 290, 22}},
-    {Kind::TextBox, "Text6", "", {320, 234, 110, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label7", "", {436, 238, 46, 22}},
-    {Kind::TextBox, "Text7", "", {20, 272, 460, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 316, 80, 30}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 316, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 316, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 316, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {448, 318, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {20, 8, 460, 60}},
+    {.kind = Kind::Option,
+     .name = "opt1",
+     .caption = "Calculate volume",
+     .rect = {16, 28, 190, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Option,
+     .name = "opt2",
+     .caption = "Calculate pressure",
+     .rect = {230, 28, 200, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Label,
+     .name = "Label1",
+     .caption = "Enter the initial temperature in Celsius.",
+     .rect = {20, 90, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {320, 86, 160, 26}, .filter = &kFilterMinusPoint},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 126, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {320, 122, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 162, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {320, 158, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label5", .rect = {20, 198, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {320, 194, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label6", .rect = {20, 238, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {320, 234, 110, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label7", .rect = {436, 238, 46, 22}},
+    {.kind = Kind::TextBox, .name = "Text7", .rect = {20, 272, 460, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 316, 80, 30}, .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 316, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 316, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 316, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {448, 318, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -51,7 +67,7 @@ frmDalton::frmDalton(Program& program)
 }
 
 void frmDalton::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"});
   ctl("opt1").SetValue(true);
   ctl("Text2").SetEnabled(true);
   ctl("Text5").SetEnabled(true);
@@ -120,7 +136,7 @@ void frmDalton::cmdOk_Click() {
 
 // The mode, its prompts and the hidden boxes stay as they are.
 void frmDalton::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"});
   ctl("Text1").SetFocus();
 }
 

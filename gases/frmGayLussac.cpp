@@ -15,47 +15,63 @@ constexpr std::string_view kPressure = "Enter the initial pressure in atmosphere
 constexpr std::string_view kTemperature = "Enter the initial temperature in Kelvin.";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 460, 60}},
-    {Kind::Option, "opt1", "Find pressure", {16, 28, 180, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Find temperature", {230, 28, 200, 24}, {}, "Frame1"},
-    {Kind::Label, "Label2", "", {20, 90, 300, 22}},
-    {Kind::TextBox,
-     "Text1",
-     "",
-     {330, 86, 150, 26},
-     "Enter the number of atmosphere the gas is presently under.",
-     {},
-     -1,
-     0,
-     &kFilterPoint},
-    {Kind::Label, "Label3", "", {20, 126, 300, 22}},
-    {Kind::TextBox, "Text2", "", {330, 122, 150, 26}, "Kelvin is Celcius + 273.", {}, -1, 0, &kFilterMinusPoint},
-    {Kind::Label, "Label4", "", {20, 162, 300, 22}},
-    {Kind::TextBox,
-     "Text3",
-     "",
-     {330, 158, 150, 26},
-     "Enter a temperature in degrees Kelvin.",
-     {},
-     -1,
-     0,
-     &kFilterMinusPoint},
-    {Kind::Label, "Label5", "", {20, 198, 300, 22}},
-    {Kind::TextBox, "Text4", "", {330, 194, 106, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label6", "", {442, 198, 40, 22}},
-    {Kind::TextBox, "Text5", "", {20, 232, 460, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 276, 80, 30}, "Calculate the final pressure.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 276, 80, 30}, "Clear all boxes and start over."},
-    {Kind::Button,
-     "cmdCancel",
-     "Cancel",
-     {196, 276, 80, 30},
-     "Close screen and return to Gas Laws screen.",
-     {},
-     -1,
-     kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 276, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {448, 278, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {20, 8, 460, 60}},
+    {.kind = Kind::Option,
+     .name = "opt1",
+     .caption = "Find pressure",
+     .rect = {16, 28, 180, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Option,
+     .name = "opt2",
+     .caption = "Find temperature",
+     .rect = {230, 28, 200, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 90, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text1",
+     .rect = {330, 86, 150, 26},
+     .toolTip = "Enter the number of atmosphere the gas is presently under.",
+     .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 126, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {330, 122, 150, 26},
+     .toolTip = "Kelvin is Celcius + 273.",
+     .filter = &kFilterMinusPoint},
+    {.kind = Kind::Label, .name = "Label4", .rect = {20, 162, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text3",
+     .rect = {330, 158, 150, 26},
+     .toolTip = "Enter a temperature in degrees Kelvin.",
+     .filter = &kFilterMinusPoint},
+    {.kind = Kind::Label, .name = "Label5", .rect = {20, 198, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {330, 194, 106, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label6", .rect = {442, 198, 40, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {20, 232, 460, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {20, 276, 80, 30},
+     .toolTip = "Calculate the final pressure.",
+     .flags = kDefault},
+    {.kind = Kind::Button,
+     .name = "cmdClear",
+     .caption = "Clear",
+     .rect = {108, 276, 80, 30},
+     .toolTip = "Clear all boxes and start over."},
+    {.kind = Kind::Button,
+     .name = "cmdCancel",
+     .caption = "Cancel",
+     .rect = {196, 276, 80, 30},
+     .toolTip = "Close screen and return to Gas Laws screen.",
+     .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 276, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {448, 278, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -83,7 +99,7 @@ void frmGayLussac::SetCaptions(std::string_view box1, std::string_view box2, std
 }
 
 void frmGayLussac::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   SetCaptions(kPressure, kTemperature, "Enter the final temperature in Kelvin.", "The final pressure is ", "Atm.");
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
@@ -142,7 +158,7 @@ void frmGayLussac::cmdOk_Click() {
 // The captions come back only through opt1's routine, which runs when opt2
 // was selected.
 void frmGayLussac::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   ctl("opt1").SetValue(true);
   ctl("Text1").SetFocus();
 }

@@ -16,34 +16,37 @@ constexpr std::string_view kLarger = "You must enter a number larger than 0.";
 
 // No cancel button: Esc does nothing on this screen.
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label2", "Enter the molecular weight for molecule #1", {20, 20, 300, 22}},
-    {Kind::TextBox,
-     "Text1",
-     "",
-     {330, 16, 150, 26},
-     "Enter the weight for a complete molecule  (Br2 not just Br).",
-     {},
-     -1,
-     0,
-     &kFilterPoint},
-    {Kind::Label, "Label3", "Enter the molecular weight for molecule #2", {20, 56, 300, 22}},
-    {Kind::TextBox,
-     "Text2",
-     "",
-     {330, 52, 150, 26},
-     "Enter the molecular weight for a complete molecule.",
-     {},
-     -1,
-     0,
-     &kFilterPoint},
-    {Kind::Label, "Label6", "The diffusion rate is ", {20, 96, 300, 22}},
-    {Kind::TextBox, "Text5", "", {330, 92, 150, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text3", "", {20, 130, 460, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 174, 80, 30}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 174, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 174, 80, 30}},
-    {Kind::Button, "cmdPrint", "Print", {284, 174, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {448, 176, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label,
+     .name = "Label2",
+     .caption = "Enter the molecular weight for molecule #1",
+     .rect = {20, 20, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text1",
+     .rect = {330, 16, 150, 26},
+     .toolTip = "Enter the weight for a complete molecule  (Br2 not just Br).",
+     .filter = &kFilterPoint},
+    {.kind = Kind::Label,
+     .name = "Label3",
+     .caption = "Enter the molecular weight for molecule #2",
+     .rect = {20, 56, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {330, 52, 150, 26},
+     .toolTip = "Enter the molecular weight for a complete molecule.",
+     .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label6", .caption = "The diffusion rate is ", .rect = {20, 96, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {330, 92, 150, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {20, 130, 460, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 174, 80, 30}, .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 174, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 174, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 174, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {448, 176, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -58,7 +61,7 @@ frmGrahams::frmGrahams(Program& program)
 }
 
 void frmGrahams::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text5", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text5", "Text3"});
   DisableOkAndPrint();
 }
 
@@ -92,7 +95,7 @@ void frmGrahams::cmdOk_Click() {
 }
 
 void frmGrahams::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text5", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text5", "Text3"});
   ctl("Text1").SetFocus();
 }
 

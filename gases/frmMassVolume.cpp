@@ -21,31 +21,39 @@ constexpr std::string_view kPositiveBlank = "You must enter a valid, positive nu
 constexpr std::string_view kWeightPrompt = "Enter the molecular weight of the reactant.";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following options", {20, 8, 460, 60}},
-    {Kind::Option, "opt1", "Volume", {16, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Mass", {230, 28, 140, 24}, {}, "Frame1"},
-    {Kind::Label, "Label1", "", {20, 90, 290, 22}},
-    {Kind::TextBox, "Text1", "", {320, 86, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label2", "", {20, 126, 290, 22}},
-    {Kind::TextBox, "Text2", "", {320, 122, 160, 26}, {}, {}, -1, 0, &kFilterMinusPoint},
-    {Kind::Label, "Label3", "", {20, 162, 290, 22}},
-    {Kind::TextBox, "Text3", "", {320, 158, 60, 26}, {}, {}, -1, 0, &kFilterDigits},
-    {Kind::Label, "Label5", "to", {384, 162, 32, 22}, {}, {}, -1, kCenter},
-    {Kind::TextBox, "Text5", "", {420, 158, 60, 26}, {}, {}, -1, 0, &kFilterDigits},
-    {Kind::Label, "Label6", "", {20, 198, 290, 22}, {}, {}, -1, kHidden},
-    {Kind::TextBox, "Text6", "", {320, 194, 160, 26}, {}, {}, -1, kHidden, &kFilterPoint},
-    {Kind::Label, "Label7", "", {20, 234, 290, 22}, {}, {}, -1, kHidden},
-    {Kind::TextBox, "Text7", "", {320, 230, 160, 26}, {}, {}, -1, kHidden, &kFilterPoint},
-    {Kind::Label, "Label4", "", {20, 274, 290, 22}},
-    {Kind::TextBox, "Text4", "", {320, 270, 110, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label8", "", {436, 274, 50, 22}},
-    {Kind::TextBox, "Text8", "", {20, 308, 460, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 352, 80, 30}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 352, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 352, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 352, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {448, 354, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following options", .rect = {20, 8, 460, 60}},
+    {.kind = Kind::Option, .name = "opt1", .caption = "Volume", .rect = {16, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .caption = "Mass", .rect = {230, 28, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label1", .rect = {20, 90, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {320, 86, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 126, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {320, 122, 160, 26}, .filter = &kFilterMinusPoint},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 162, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {320, 158, 60, 26}, .filter = &kFilterDigits},
+    {.kind = Kind::Label, .name = "Label5", .caption = "to", .rect = {384, 162, 32, 22}, .flags = kCenter},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {420, 158, 60, 26}, .filter = &kFilterDigits},
+    {.kind = Kind::Label, .name = "Label6", .rect = {20, 198, 290, 22}, .flags = kHidden},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {320, 194, 160, 26}, .flags = kHidden, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label7", .rect = {20, 234, 290, 22}, .flags = kHidden},
+    {.kind = Kind::TextBox, .name = "Text7", .rect = {320, 230, 160, 26}, .flags = kHidden, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label4", .rect = {20, 274, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {320, 270, 110, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label8", .rect = {436, 274, 50, 22}},
+    {.kind = Kind::TextBox, .name = "Text8", .rect = {20, 308, 460, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 352, 80, 30}, .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 352, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 352, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 352, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {448, 354, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
+
+// The boxes that loading and clearing empty, in this order.
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"};
 
 }  // namespace
 
@@ -60,19 +68,13 @@ frmMassVolume::frmMassVolume(Program& program)
   for (const char* box : {"Text1", "Text2", "Text3", "Text5", "Text6", "Text7"}) EnterRunsOk(box);
 }
 
-void frmMassVolume::EmptyBoxes() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"}) {
-    ctl(box).SetText("");
-  }
-}
-
 void frmMassVolume::HideExtraBoxes() {
   for (const char* name : {"Text6", "Label6", "Text7", "Label7"}) ctl(name).SetVisible(false);
 }
 
 void frmMassVolume::Form_Load() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the mass of the reactant in grams.");
   ctl("Label2").SetCaption(std::string(kWeightPrompt));
   ctl("Label3").SetCaption("Enter the ratio of product to reactant.");
@@ -90,7 +92,7 @@ void frmMassVolume::opt1_Click() {
   ctl("Label4").SetCaption("The volume of the gas is ");
   ctl("Label8").SetCaption("Liters");
   HideExtraBoxes();
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text8"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text8"});
 }
 
 void frmMassVolume::opt2_Click() {
@@ -101,9 +103,7 @@ void frmMassVolume::opt2_Click() {
   ctl("Label6").SetCaption(std::string(kWeightPrompt));
   ctl("Label7").SetCaption("Enter the initial pressure in kPa.");
   ctl("Label8").SetCaption("grams");
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"}) {
-    ctl(box).SetText("");
-  }
+  EmptyBoxes(kBoxes);
   for (const char* name : {"Text6", "Label6", "Text7", "Label7"}) ctl(name).SetVisible(true);
 }
 
@@ -148,7 +148,7 @@ void frmMassVolume::cmdOk_Click() {
 
 void frmMassVolume::cmdClear_Click() {
   ctl("opt1").SetValue(true);
-  EmptyBoxes();
+  EmptyBoxes(kBoxes);
   ctl("Label1").SetCaption("Enter the mass of the reactant.");
   ctl("Label2").SetCaption(std::string(kWeightPrompt));
   ctl("Label3").SetCaption("Enter the ratio of product to reactant.");

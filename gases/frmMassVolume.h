@@ -17,7 +17,6 @@ class frmMassVolume : public CalculatorScreen {
   void opt1_Click();
   void opt2_Click();
 
-  void EmptyBoxes();
   void HideExtraBoxes();
 };
 

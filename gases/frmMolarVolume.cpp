@@ -17,23 +17,28 @@ constexpr std::string_view kHelp =
 constexpr std::string_view kWeightPrompt = "Enter the molecular weight of the gas.";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {20, 8, 440, 60}},
-    {Kind::Option, "opt1", "Mass", {16, 28, 120, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Moles", {160, 28, 120, 24}, {}, "Frame1"},
-    {Kind::Option, "opt3", "Volume", {304, 28, 120, 24}, {}, "Frame1"},
-    {Kind::Label, "Label2", "", {20, 90, 280, 22}},
-    {Kind::TextBox, "Text1", "", {310, 86, 150, 26}, {}, {}, -1, 0, &kFilterPointMolar},
-    {Kind::Label, "Label3", "", {20, 126, 280, 22}},
-    {Kind::TextBox, "Text2", "", {310, 122, 150, 26}, {}, {}, -1, 0, &kFilterPointMolar},
-    {Kind::Label, "Label4", "", {20, 166, 280, 22}},
-    {Kind::TextBox, "Text3", "", {310, 162, 96, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label1", "", {412, 166, 50, 22}},
-    {Kind::TextBox, "Text4", "", {20, 200, 440, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 244, 80, 30}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 244, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 244, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 244, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {428, 246, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {20, 8, 440, 60}},
+    {.kind = Kind::Option, .name = "opt1", .caption = "Mass", .rect = {16, 28, 120, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .caption = "Moles", .rect = {160, 28, 120, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt3", .caption = "Volume", .rect = {304, 28, 120, 24}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 90, 280, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {310, 86, 150, 26}, .filter = &kFilterPointMolar},
+    {.kind = Kind::Label, .name = "Label3", .rect = {20, 126, 280, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {310, 122, 150, 26}, .filter = &kFilterPointMolar},
+    {.kind = Kind::Label, .name = "Label4", .rect = {20, 166, 280, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {310, 162, 96, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label1", .rect = {412, 166, 50, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {20, 200, 440, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 244, 80, 30}, .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 244, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 244, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 244, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {428, 246, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -60,7 +65,7 @@ void frmMolarVolume::SetCaptions(std::string_view second, std::string_view resul
 
 void frmMolarVolume::Form_Load() {
   ctl("opt1").SetValue(true);
-  for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   opt1_Click();
   DisableOkAndPrint();
 }
@@ -101,7 +106,7 @@ void frmMolarVolume::cmdOk_Click() {
 
 void frmMolarVolume::cmdClear_Click() {
   ctl("opt1").SetValue(true);
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   opt1_Click();
   ctl("Text1").SetFocus();
 }

@@ -1,6 +1,6 @@
 #include "gases/frmRaoults.h"
 
-#include "shell/screens/module1.h"
+#include "data/store.h"
 
 namespace orv {
 
@@ -13,27 +13,45 @@ constexpr std::string_view kHelp =
     "calculate the new vapor pressure of the solvent. ";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label2", "Enter the temperature in Celsius.", {20, 20, 300, 22}},
-    {Kind::TextBox, "Text1", "", {330, 16, 150, 26}, {}, {}, -1, 0, &kFilterMinusPoint},
-    {Kind::Label, "Label3", "Enter the mass of solute in grams.", {20, 56, 300, 22}},
-    {Kind::TextBox, "Text2", "", {330, 52, 150, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label4", "Enter the molecular weight of the solute.", {20, 92, 300, 22}},
-    {Kind::TextBox, "Text3", "", {330, 88, 150, 26}, "Enter a valid number.", {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label5", "Enter the mass of the solvent in grams.", {20, 128, 300, 22}},
-    {Kind::TextBox, "Text4", "", {330, 124, 150, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label6", "Enter the molecular weight of the solvent.", {20, 164, 300, 22}},
-    {Kind::TextBox, "Text5", "", {330, 160, 150, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label7", "The vapor pressure is ", {20, 204, 300, 22}},
-    {Kind::TextBox, "Text6", "", {330, 200, 150, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text7", "", {20, 238, 460, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 282, 80, 30}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 282, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 282, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 282, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {448, 284, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Enter the temperature in Celsius.", .rect = {20, 20, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {330, 16, 150, 26}, .filter = &kFilterMinusPoint},
+    {.kind = Kind::Label, .name = "Label3", .caption = "Enter the mass of solute in grams.", .rect = {20, 56, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {330, 52, 150, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label,
+     .name = "Label4",
+     .caption = "Enter the molecular weight of the solute.",
+     .rect = {20, 92, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text3",
+     .rect = {330, 88, 150, 26},
+     .toolTip = "Enter a valid number.",
+     .filter = &kFilterPoint},
+    {.kind = Kind::Label,
+     .name = "Label5",
+     .caption = "Enter the mass of the solvent in grams.",
+     .rect = {20, 128, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {330, 124, 150, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label,
+     .name = "Label6",
+     .caption = "Enter the molecular weight of the solvent.",
+     .rect = {20, 164, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {330, 160, 150, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label7", .caption = "The vapor pressure is ", .rect = {20, 204, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {330, 200, 150, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text7", .rect = {20, 238, 460, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 282, 80, 30}, .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 282, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 282, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 282, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {448, 284, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
-constexpr const char* kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"};
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"};
 
 }  // namespace
 
@@ -46,7 +64,7 @@ frmRaoults::frmRaoults(Program& program)
 }
 
 void frmRaoults::Form_Load() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   DisableOkAndPrint();
 }
 
@@ -93,7 +111,7 @@ void frmRaoults::cmdOk_Click() {
 }
 
 void frmRaoults::cmdClear_Click() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   ctl("Text1").SetFocus();
 }
 

@@ -15,44 +15,50 @@ constexpr std::string_view kHelp =
 constexpr std::string_view kCoefficient = "You must enter a valid coefficient.";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label,
-     "Label1",
-     "Enter data from a balanced equation. (Temperature and pressure constant)",
-     {20, 14, 460, 22}},
-    {Kind::Label, "Label2", "Enter the original volume in liters.", {20, 50, 290, 22}},
-    {Kind::TextBox, "Text1", "", {320, 46, 160, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label3", "Enter the coefficient of the given gas.", {20, 86, 290, 22}},
-    {Kind::TextBox,
-     "Text2",
-     "",
-     {320, 82, 160, 26},
-     "Enter the coefficient for the molecule that you know.",
-     {},
-     -1,
-     0,
-     &kFilterDigits},
-    {Kind::Label, "Label4", "Enter the coefficient of the gas you need.", {20, 122, 290, 22}},
-    {Kind::TextBox,
-     "Text3",
-     "",
-     {320, 118, 160, 26},
-     "Enter the coefficient for the molecule you want to know about.",
-     {},
-     -1,
-     0,
-     &kFilterDigitsV},
-    {Kind::Label, "Label14", "The new volume is ", {20, 162, 290, 22}},
-    {Kind::TextBox, "Text13", "", {320, 158, 110, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label5", "", {436, 162, 44, 22}},
-    {Kind::TextBox, "Text4", "", {20, 196, 460, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 240, 80, 30}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 240, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 240, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 240, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {448, 242, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label,
+     .name = "Label1",
+     .caption = "Enter data from a balanced equation. (Temperature and pressure constant)",
+     .rect = {20, 14, 460, 22}},
+    {.kind = Kind::Label,
+     .name = "Label2",
+     .caption = "Enter the original volume in liters.",
+     .rect = {20, 50, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {320, 46, 160, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label,
+     .name = "Label3",
+     .caption = "Enter the coefficient of the given gas.",
+     .rect = {20, 86, 290, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {320, 82, 160, 26},
+     .toolTip = "Enter the coefficient for the molecule that you know.",
+     .filter = &kFilterDigits},
+    {.kind = Kind::Label,
+     .name = "Label4",
+     .caption = "Enter the coefficient of the gas you need.",
+     .rect = {20, 122, 290, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text3",
+     .rect = {320, 118, 160, 26},
+     .toolTip = "Enter the coefficient for the molecule you want to know about.",
+     .filter = &kFilterDigitsV},
+    {.kind = Kind::Label, .name = "Label14", .caption = "The new volume is ", .rect = {20, 162, 290, 22}},
+    {.kind = Kind::TextBox, .name = "Text13", .rect = {320, 158, 110, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label5", .rect = {436, 162, 44, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {20, 196, 460, 26}, .flags = kDisabled},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 240, 80, 30}, .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 240, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 240, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 240, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {448, 242, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
-constexpr const char* kBoxes[] = {"Text1", "Text2", "Text3", "Text13", "Text4"};
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text13", "Text4"};
 
 // The tests compare texts: "." sorts before "0" and is refused, "00" after it.
 bool AtOrBeforeZero(const std::string& text) { return text.empty() || text <= "0"; }
@@ -71,7 +77,7 @@ frmVolumeVolume::frmVolumeVolume(Program& program)
 }
 
 void frmVolumeVolume::Form_Load() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   DisableOkAndPrint();
 }
 
@@ -99,7 +105,7 @@ void frmVolumeVolume::cmdOk_Click() {
 }
 
 void frmVolumeVolume::cmdClear_Click() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   ctl("Text1").SetFocus();
 }
 

@@ -13,16 +13,24 @@ constexpr std::string_view kHelp =
     "Newtoms. There  is another section for converting English measurements to metric measurements.  ";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label1", "Enter a number of kilograms or Newtons.", {20, 22, 264, 22}},
-    {Kind::TextBox, "Text1", "", {288, 18, 168, 26}},
-    {Kind::Button, "cmdKToN", "Kilograms To Newtons", {20, 60, 180, 30}},
-    {Kind::Button, "cmdNToK", "Newtons To Kilograms", {208, 60, 180, 30}},
-    {Kind::Label, "Label2", "The answer is", {20, 112, 264, 22}},
-    {Kind::TextBox, "Text2", "", {288, 108, 168, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label3", "", {464, 112, 80, 22}},
-    {Kind::Button, "cmdClear", "Clear", {20, 154, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {108, 154, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdHelp", "?", {512, 156, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label,
+     .name = "Label1",
+     .caption = "Enter a number of kilograms or Newtons.",
+     .rect = {20, 22, 264, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {288, 18, 168, 26}},
+    {.kind = Kind::Button, .name = "cmdKToN", .caption = "Kilograms To Newtons", .rect = {20, 60, 180, 30}},
+    {.kind = Kind::Button, .name = "cmdNToK", .caption = "Newtons To Kilograms", .rect = {208, 60, 180, 30}},
+    {.kind = Kind::Label, .name = "Label2", .caption = "The answer is", .rect = {20, 112, 264, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {288, 108, 168, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label3", .rect = {464, 112, 80, 22}},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {20, 154, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {108, 154, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {512, 156, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace

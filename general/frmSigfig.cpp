@@ -10,15 +10,29 @@ constexpr std::string_view kScreenTitle = "Significant Figures";
 constexpr KeyFilter kSigfigFilter{".", kScreenTitle};
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "lblsigfig1", "Enter a number", {20, 22, 150, 22}},
-    {Kind::TextBox, "txtSigfig1", "", {176, 18, 180, 26}, "Enter a number.", {}, -1, 0, &kSigfigFilter},
-    {Kind::Label, "lblSigfig2", "Significant figures", {20, 62, 150, 22}},
-    {Kind::TextBox, "txtSigfig2", "", {176, 58, 180, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {20, 110, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {108, 110, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {196, 110, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {284, 110, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {332, 152, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "lblsigfig1", .caption = "Enter a number", .rect = {20, 22, 150, 22}},
+    {.kind = Kind::TextBox,
+     .name = "txtSigfig1",
+     .rect = {176, 18, 180, 26},
+     .toolTip = "Enter a number.",
+     .filter = &kSigfigFilter},
+    {.kind = Kind::Label, .name = "lblSigfig2", .caption = "Significant figures", .rect = {20, 62, 150, 22}},
+    {.kind = Kind::TextBox, .name = "txtSigfig2", .rect = {176, 58, 180, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {20, 110, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 110, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 110, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 110, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {332, 152, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 constexpr std::string_view kHelp =

@@ -34,10 +34,10 @@ QString TickText(double v, const ValueScale& s);
 // fits its slot, otherwise upright in a face small enough for one slot each.
 struct CategoryFace {
   bool upright = false;
-  int pixelSize = 0;           // the upright face's size; 0 keeps the tick font
-  double depth = 0;            // room the labels take below the axis
-  double thickness = 0;        // an upright label's extent across its slot
-  double descentBelowInk = 0;  // from the baseline up to the digits' foot
+  int pixelSize = 0;                            // the upright face's size; 0 keeps the tick font
+  double depth = 0;                             // room the labels take below the axis
+  double thickness = 0;                         // an upright label's extent across its slot
+  double descentBelowInk = 0;                   // from the baseline up to the digits' foot
   std::function<double(const QString&)> width;  // a label's length in the face
 };
 

@@ -38,7 +38,7 @@ const ControlAdapter& AdapterFor(Kind kind) {
 }
 
 void SyncAll(const ControlAdapter& adapter, const Control& c, QObject* shown) {
-  for (Prop p : {Prop::Enabled, Prop::Visible, Prop::ToolTip, Prop::Color, Prop::Text, Prop::Value, Prop::Role,
+  for (Prop p : {Prop::Enabled, Prop::Visible, Prop::ToolTip, Prop::Colors, Prop::Text, Prop::Value, Prop::Role,
                  Prop::List, Prop::ListIndex, Prop::Selection, Prop::Content}) {
     adapter.Sync(c, shown, p);
   }
@@ -53,7 +53,7 @@ bool ControlAdapter::SyncCommon(const Control& c, QWidget* w, Prop what) {
     case Prop::Enabled: w->setEnabled(c.Enabled()); return true;
     case Prop::Visible: w->setVisible(c.Visible()); return true;
     case Prop::ToolTip: w->setToolTip(Q(c.ToolTip())); return true;
-    case Prop::Color: break;
+    case Prop::Colors: break;
     default: return false;
   }
   // Colours the screen set: a button's face and caption, a label's ground

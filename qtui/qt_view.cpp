@@ -3,8 +3,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenuBar>
 #include <QListWidget>
+#include <QMenuBar>
 #include <QScreen>
 #include <QSignalBlocker>
 #include <QVBoxLayout>

@@ -9,8 +9,8 @@
 #include <QListWidget>
 #include <QMenu>
 #include <QMessageBox>
-#include <QTest>
 #include <QPlainTextEdit>
+#include <QTest>
 #include <QTextEdit>
 #include <QTimer>
 #include <QTreeWidget>

@@ -154,13 +154,13 @@ void Control::SetToolTip(std::string tip) {
 void Control::SetBackColor(int rgb) {
   if (rgb == backColor_) return;
   backColor_ = rgb;
-  Notify(Prop::Color);
+  Notify(Prop::Colors);
 }
 
 void Control::SetForeColor(int rgb) {
   if (rgb == foreColor_) return;
   foreColor_ = rgb;
-  Notify(Prop::Color);
+  Notify(Prop::Colors);
 }
 
 void Control::SelectOption(bool runClick) {

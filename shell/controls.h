@@ -73,7 +73,7 @@ struct ControlSpec {
 };
 
 // Properties that a view mirrors.
-enum class Prop { Text, Enabled, Visible, Value, ToolTip, List, ListIndex, Selection, Role, Content, Color };
+enum class Prop { Text, Enabled, Visible, Value, ToolTip, List, ListIndex, Selection, Role, Content, Colors };
 
 // A colour as 0xRRGGBB; kNoColor leaves the toolkit's own colour.
 inline constexpr int kNoColor = -1;

@@ -76,7 +76,21 @@ Control* Form::CancelButton() const {
   return nullptr;
 }
 
-void Form::On(std::string_view control, Ev ev, Handler h) { handlers_[{std::string(control), ev}] = std::move(h); }
+void Form::On(std::string_view control, Ev ev, Handler h) {
+  if (control != kFormName && !Declares(control)) {
+    std::fprintf(stderr, "%s binds %.*s, a control it does not declare\n", name_.c_str(),
+                 static_cast<int>(control.size()), control.data());
+    std::abort();
+  }
+  handlers_[{std::string(control), ev}] = std::move(h);
+}
+
+bool Form::Declares(std::string_view name) const {
+  for (const auto& c : controls_) {
+    if (c->name() == name) return true;
+  }
+  return false;
+}
 
 bool Form::HasHandler(std::string_view control, Ev ev) const {
   return handlers_.find(std::pair<std::string, Ev>(std::string(control), ev)) != handlers_.end();
@@ -106,6 +120,10 @@ void Form::Call(std::string_view control, Ev ev) {
 void Form::FireForm(Ev ev, EventArgs& args) { Fire(nullptr, ev, args); }
 
 void Form::EmptyBoxes(std::initializer_list<std::string_view> names) {
+  EmptyBoxes(std::span<const std::string_view>(names.begin(), names.size()));
+}
+
+void Form::EmptyBoxes(std::span<const std::string_view> names) {
   for (std::string_view name : names) ctl(name).SetText("");
 }
 

@@ -121,6 +121,7 @@ class Form {
 
   // Empties the named boxes in turn, each raising its Change as a write does.
   void EmptyBoxes(std::initializer_list<std::string_view> names);
+  void EmptyBoxes(std::span<const std::string_view> names);
 
   // Screen services for the routines.
   int MsgBox(std::string_view text, Icon icon, std::string_view title);
@@ -145,6 +146,9 @@ class Form {
 
  protected:
   using Handler = std::function<void(EventArgs&)>;
+  // Binds a handler to an event of a control the screen declares, or of
+  // "Form". Binding any other name is a programming error and aborts, so that
+  // a misspelt name fails when the screen is built rather than never firing.
   void On(std::string_view control, Ev ev, Handler h);
 
   // Binds a routine of the derived screen. The routine's signature says what
@@ -184,6 +188,9 @@ class Form {
   }
 
  private:
+  // Whether any control (of any index) has that name.
+  bool Declares(std::string_view name) const;
+
   Program* program_;
   std::string name_;
   std::string caption_;

@@ -12,35 +12,57 @@ constexpr std::string_view kHelp =
     "-Log(Hydronium Ion Concentration).";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame,
-     "Frame1",
-     "Select one of the following options",
-     {16, 8, 448, 142},
-     "Select which option you want and press Ok."},
-    {Kind::Option, "opt1", "Calculate pH from H3O+  ion concentration", {16, 24, 420, 24}, {}, "Frame1"},
-    {Kind::Option,
-     "opt2",
-     "Calculate pOH from OH-  ion concentration",
-     {16, 52, 420, 24},
-     "Make sure the concentration is that of OH- ions.",
-     "Frame1"},
-    {Kind::Option, "opt3", "Determine H3O+  ion concentration from pH", {16, 80, 420, 24}, {}, "Frame1"},
-    {Kind::Option,
-     "opt4",
-     "Determine OH-  ion concentration from pOH",
-     {16, 108, 420, 24},
-     "Make sure you enter pOH and not pH.",
-     "Frame1"},
-    {Kind::Label, "Label1", "", {16, 170, 244, 22}},
-    {Kind::TextBox, "Text1", "", {264, 166, 200, 26}, {}, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label2", "", {16, 206, 244, 22}},
-    {Kind::TextBox, "Text2", "", {264, 202, 200, 26}, "This is your answer.", {}, -1, kDisabled},
-    {Kind::TextBox, "Text3", "", {16, 242, 448, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 286, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 286, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 286, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 286, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {432, 288, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame,
+     .name = "Frame1",
+     .caption = "Select one of the following options",
+     .rect = {16, 8, 448, 142},
+     .toolTip = "Select which option you want and press Ok."},
+    {.kind = Kind::Option,
+     .name = "opt1",
+     .caption = "Calculate pH from H3O+  ion concentration",
+     .rect = {16, 24, 420, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Option,
+     .name = "opt2",
+     .caption = "Calculate pOH from OH-  ion concentration",
+     .rect = {16, 52, 420, 24},
+     .toolTip = "Make sure the concentration is that of OH- ions.",
+     .container = "Frame1"},
+    {.kind = Kind::Option,
+     .name = "opt3",
+     .caption = "Determine H3O+  ion concentration from pH",
+     .rect = {16, 80, 420, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Option,
+     .name = "opt4",
+     .caption = "Determine OH-  ion concentration from pOH",
+     .rect = {16, 108, 420, 24},
+     .toolTip = "Make sure you enter pOH and not pH.",
+     .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label1", .rect = {16, 170, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {264, 166, 200, 26}, .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label2", .rect = {16, 206, 244, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {264, 202, 200, 26},
+     .toolTip = "This is your answer.",
+     .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {16, 242, 448, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 286, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 286, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 286, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 286, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {432, 288, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -59,7 +81,7 @@ frmAcids::frmAcids(Program& program)
 }
 
 void frmAcids::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
 }
@@ -116,7 +138,7 @@ void frmAcids::cmdOk_Click() {
 }
 
 void frmAcids::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3"});
   ctl("Text1").SetFocus();
 }
 

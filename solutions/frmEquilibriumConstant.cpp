@@ -23,36 +23,118 @@ constexpr std::string_view kConcentrationMissing =
     "You must enter valid numeric data into the reactant concentration box";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label1", "", {16, 10, 560, 40}},
-    {Kind::Frame, "Frame1", "Reactants (maximum of 2)", {16, 58, 276, 164}},
-    {Kind::Label, "Label3", "1st coefficient", {12, 30, 160, 22}, {}, "Frame1"},
-    {Kind::TextBox, "Text2", "", {176, 26, 88, 26}, kCoefficientTip, "Frame1", -1, 0, &kCoefficientFilter},
-    {Kind::Label, "Label6", "1st concentration (M)", {12, 62, 160, 22}, {}, "Frame1"},
-    {Kind::TextBox, "Text5", "", {176, 58, 88, 26}, kMolarityTip, "Frame1", -1, 0, &kConcentrationFilter},
-    {Kind::Label, "Label4", "2nd Coefficient", {12, 94, 160, 22}, {}, "Frame1"},
-    {Kind::TextBox, "Text3", "", {176, 90, 88, 26}, kCoefficientTip, "Frame1", -1, 0, &kCoefficientFilter},
-    {Kind::Label, "Label5", "2nd Concentration (M)", {12, 126, 160, 22}, {}, "Frame1"},
-    {Kind::TextBox, "Text4", "", {176, 122, 88, 26}, kMolarityTip, "Frame1", -1, 0, &kConcentrationFilter},
-    {Kind::Frame, "Frame2", "Products (maximum of 2)", {300, 58, 276, 164}},
-    {Kind::Label, "Label9", "1st coefficient", {12, 30, 160, 22}, {}, "Frame2"},
-    {Kind::TextBox, "Text8", "", {176, 26, 88, 26}, kCoefficientTip, "Frame2", -1, 0, &kCoefficientFilter},
-    {Kind::Label, "Label12", "1st concentration (M)", {12, 62, 160, 22}, {}, "Frame2"},
-    {Kind::TextBox, "Text11", "", {176, 58, 88, 26}, kMolarityTip, "Frame2", -1, 0, &kConcentrationFilter},
-    {Kind::Label, "Label10", "2nd coefficient", {12, 94, 160, 22}, {}, "Frame2"},
-    {Kind::TextBox, "Text9", "", {176, 90, 88, 26}, kCoefficientTip, "Frame2", -1, 0, &kCoefficientFilter},
-    {Kind::Label, "Label13", "2nd concentration (M)", {12, 126, 160, 22}, {}, "Frame2"},
-    {Kind::TextBox, "Text12", "", {176, 122, 88, 26}, kMolarityTip, "Frame2", -1, 0, &kConcentrationFilter},
-    {Kind::Label, "Label2", "The equilibrium constant is ", {16, 242, 220, 22}},
-    {Kind::TextBox, "Text1", "", {240, 238, 200, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text14", "", {16, 274, 560, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 318, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 318, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 318, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 318, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {544, 320, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "Label1", .rect = {16, 10, 560, 40}},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Reactants (maximum of 2)", .rect = {16, 58, 276, 164}},
+    {.kind = Kind::Label,
+     .name = "Label3",
+     .caption = "1st coefficient",
+     .rect = {12, 30, 160, 22},
+     .container = "Frame1"},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {176, 26, 88, 26},
+     .toolTip = kCoefficientTip,
+     .container = "Frame1",
+     .filter = &kCoefficientFilter},
+    {.kind = Kind::Label,
+     .name = "Label6",
+     .caption = "1st concentration (M)",
+     .rect = {12, 62, 160, 22},
+     .container = "Frame1"},
+    {.kind = Kind::TextBox,
+     .name = "Text5",
+     .rect = {176, 58, 88, 26},
+     .toolTip = kMolarityTip,
+     .container = "Frame1",
+     .filter = &kConcentrationFilter},
+    {.kind = Kind::Label,
+     .name = "Label4",
+     .caption = "2nd Coefficient",
+     .rect = {12, 94, 160, 22},
+     .container = "Frame1"},
+    {.kind = Kind::TextBox,
+     .name = "Text3",
+     .rect = {176, 90, 88, 26},
+     .toolTip = kCoefficientTip,
+     .container = "Frame1",
+     .filter = &kCoefficientFilter},
+    {.kind = Kind::Label,
+     .name = "Label5",
+     .caption = "2nd Concentration (M)",
+     .rect = {12, 126, 160, 22},
+     .container = "Frame1"},
+    {.kind = Kind::TextBox,
+     .name = "Text4",
+     .rect = {176, 122, 88, 26},
+     .toolTip = kMolarityTip,
+     .container = "Frame1",
+     .filter = &kConcentrationFilter},
+    {.kind = Kind::Frame, .name = "Frame2", .caption = "Products (maximum of 2)", .rect = {300, 58, 276, 164}},
+    {.kind = Kind::Label,
+     .name = "Label9",
+     .caption = "1st coefficient",
+     .rect = {12, 30, 160, 22},
+     .container = "Frame2"},
+    {.kind = Kind::TextBox,
+     .name = "Text8",
+     .rect = {176, 26, 88, 26},
+     .toolTip = kCoefficientTip,
+     .container = "Frame2",
+     .filter = &kCoefficientFilter},
+    {.kind = Kind::Label,
+     .name = "Label12",
+     .caption = "1st concentration (M)",
+     .rect = {12, 62, 160, 22},
+     .container = "Frame2"},
+    {.kind = Kind::TextBox,
+     .name = "Text11",
+     .rect = {176, 58, 88, 26},
+     .toolTip = kMolarityTip,
+     .container = "Frame2",
+     .filter = &kConcentrationFilter},
+    {.kind = Kind::Label,
+     .name = "Label10",
+     .caption = "2nd coefficient",
+     .rect = {12, 94, 160, 22},
+     .container = "Frame2"},
+    {.kind = Kind::TextBox,
+     .name = "Text9",
+     .rect = {176, 90, 88, 26},
+     .toolTip = kCoefficientTip,
+     .container = "Frame2",
+     .filter = &kCoefficientFilter},
+    {.kind = Kind::Label,
+     .name = "Label13",
+     .caption = "2nd concentration (M)",
+     .rect = {12, 126, 160, 22},
+     .container = "Frame2"},
+    {.kind = Kind::TextBox,
+     .name = "Text12",
+     .rect = {176, 122, 88, 26},
+     .toolTip = kMolarityTip,
+     .container = "Frame2",
+     .filter = &kConcentrationFilter},
+    {.kind = Kind::Label, .name = "Label2", .caption = "The equilibrium constant is ", .rect = {16, 242, 220, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {240, 238, 200, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text14", .rect = {16, 274, 560, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 318, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 318, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 318, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 318, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {544, 320, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
-constexpr const char* kInputs[] = {"Text2", "Text5", "Text3", "Text4", "Text8", "Text11", "Text9", "Text12"};
+constexpr std::string_view kInputs[] = {"Text2", "Text5", "Text3", "Text4", "Text8", "Text11", "Text9", "Text12"};
 
 // A coefficient that is empty or compares at or below "0" as text becomes 1.
 void DefaultCoefficient(Control& box) {
@@ -73,14 +155,14 @@ frmEquilibriumConstant::frmEquilibriumConstant(Program& program)
   // The result box is the designated box; the first concentration enables
   // the buttons as well.
   Bind("Text5", Ev::Change, &frmEquilibriumConstant::Designated_Change);
-  for (const char* box : kInputs) EnterRunsOk(box);
+  for (std::string_view box : kInputs) EnterRunsOk(box);
 }
 
 void frmEquilibriumConstant::Form_Load() {
   ctl("Label1").SetCaption(
       "Enter the coefficients and concentrations for each\r\n"
       "reactant and product from a BALANCED equation.");
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   EmptyBoxes({"Text1", "Text14"});
   DisableOkAndPrint();
 }
@@ -130,7 +212,7 @@ void frmEquilibriumConstant::cmdOk_Click() {
 }
 
 void frmEquilibriumConstant::cmdClear_Click() {
-  for (const char* box : kInputs) ctl(box).SetText("");
+  EmptyBoxes(kInputs);
   EmptyBoxes({"Text1", "Text14"});
   ctl("Text2").SetFocus();
 }

@@ -1,8 +1,7 @@
 #include "solutions/frmFreezing.h"
 
+#include "data/padded_row.h"
 #include "data/store.h"
-#include "shell/screens/module1.h"
-#include "tables/padded_row.h"
 
 namespace orv {
 
@@ -16,29 +15,65 @@ constexpr std::string_view kHelp =
     "determine the total temperature change. ";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {16, 8, 528, 56}},
-    {Kind::Option, "opt1", "Freezing point", {16, 24, 160, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Boiling point", {220, 24, 160, 24}, {}, "Frame1"},
-    {Kind::Label,
-     "Label6",
-     " Substance                        F.P.           Depression         B.P.       Elevation",
-     {16, 74, 528, 22}},
-    {Kind::ListBox, "lstList1", "", {16, 98, 528, 150}, {}, {}, -1, kFixedPitch},
-    {Kind::Label, "Label2", "Enter one of the above temperature changes.", {16, 266, 300, 22}},
-    {Kind::TextBox, "Text1", "", {324, 262, 220, 26}, "Enter a temperature change.", {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label3", "Enter the original temperature in Celsius", {16, 302, 300, 22}},
-    {Kind::TextBox, "Text2", "", {324, 298, 220, 26}, "Enter a valid temperature.", {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label4", "Enter the molality", {16, 338, 300, 22}},
-    {Kind::TextBox, "Text3", "", {324, 334, 220, 26}, "Enter a valid molality.", {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label5", "The final temperature is ", {16, 378, 300, 22}},
-    {Kind::TextBox, "Text4", "", {324, 374, 156, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label1", "Celsius", {488, 378, 56, 22}},
-    {Kind::TextBox, "Text5", "", {16, 410, 528, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 454, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 454, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 454, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 454, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {512, 456, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {16, 8, 528, 56}},
+    {.kind = Kind::Option,
+     .name = "opt1",
+     .caption = "Freezing point",
+     .rect = {16, 24, 160, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Option,
+     .name = "opt2",
+     .caption = "Boiling point",
+     .rect = {220, 24, 160, 24},
+     .container = "Frame1"},
+    {.kind = Kind::Label,
+     .name = "Label6",
+     .caption = " Substance                        F.P.           Depression         B.P.       Elevation",
+     .rect = {16, 74, 528, 22}},
+    {.kind = Kind::ListBox, .name = "lstList1", .rect = {16, 98, 528, 150}, .flags = kFixedPitch},
+    {.kind = Kind::Label,
+     .name = "Label2",
+     .caption = "Enter one of the above temperature changes.",
+     .rect = {16, 266, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text1",
+     .rect = {324, 262, 220, 26},
+     .toolTip = "Enter a temperature change.",
+     .filter = &kFilterPoint},
+    {.kind = Kind::Label,
+     .name = "Label3",
+     .caption = "Enter the original temperature in Celsius",
+     .rect = {16, 302, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {324, 298, 220, 26},
+     .toolTip = "Enter a valid temperature.",
+     .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label4", .caption = "Enter the molality", .rect = {16, 338, 300, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text3",
+     .rect = {324, 334, 220, 26},
+     .toolTip = "Enter a valid molality.",
+     .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label5", .caption = "The final temperature is ", .rect = {16, 378, 300, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {324, 374, 156, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Celsius", .rect = {488, 378, 56, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {16, 410, 528, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 454, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 454, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 454, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 454, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {512, 456, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 // The list's columns: the compound's name, then the freezing point, its
@@ -111,7 +146,7 @@ void frmFreezing::cmdOk_Click() {
 
 void frmFreezing::cmdClear_Click() {
   ctl("lstList1").SetListIndex(-1);
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5"});
   ctl("Text1").SetFocus();
 }
 

@@ -11,26 +11,32 @@ constexpr std::string_view kHelp =
     "and its solubility constant. ";
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label2", "Enter the molality per atmosphere", {16, 20, 244, 22}},
-    {Kind::TextBox,
-     "Text1",
-     "",
-     {264, 16, 200, 26},
-     "Molality is moles per kilogram of solvent.",
-     {},
-     -1,
-     0,
-     &kFilterSignsPointE},
-    {Kind::Label, "Label3", "Enter the pressure in atmospheres", {16, 56, 244, 22}},
-    {Kind::TextBox, "Text2", "", {264, 52, 200, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label4", "The solubility is ", {16, 96, 244, 22}},
-    {Kind::TextBox, "Text3", "", {264, 92, 200, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text4", "", {16, 132, 448, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 176, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 176, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 176, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 176, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {432, 178, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Enter the molality per atmosphere", .rect = {16, 20, 244, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text1",
+     .rect = {264, 16, 200, 26},
+     .toolTip = "Molality is moles per kilogram of solvent.",
+     .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label3", .caption = "Enter the pressure in atmospheres", .rect = {16, 56, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {264, 52, 200, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label4", .caption = "The solubility is ", .rect = {16, 96, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {264, 92, 200, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {16, 132, 448, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 176, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 176, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 176, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 176, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {432, 178, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -46,7 +52,7 @@ frmHenrys::frmHenrys(Program& program)
 }
 
 void frmHenrys::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   DisableOkAndPrint();
 }
 
@@ -67,7 +73,7 @@ void frmHenrys::cmdOk_Click() {
 }
 
 void frmHenrys::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("Text1").SetFocus();
 }
 

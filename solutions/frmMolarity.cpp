@@ -14,22 +14,40 @@ constexpr std::string_view kHelp =
 constexpr KeyFilter kMolarityFilter{".", kTitle, KeyFilter::kRefusal, false};
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "Select one of the following", {16, 8, 448, 56}},
-    {Kind::Option, "opt1", "Molarity", {16, 24, 140, 24}, {}, "Frame1"},
-    {Kind::Option, "opt2", "Molality", {200, 24, 140, 24}, {}, "Frame1"},
-    {Kind::Label, "Label2", "Enter the moles of solute", {16, 84, 244, 22}},
-    {Kind::TextBox, "Text1", "", {264, 80, 200, 26}, "Enter a number of moles.", {}, -1, 0, &kMolarityFilter},
-    {Kind::Label, "Label3", "", {16, 120, 244, 22}},
-    {Kind::TextBox, "Text2", "", {264, 116, 200, 26}, "Enter liters or kilograms.", {}, -1, 0, &kMolarityFilter},
-    {Kind::Label, "Label4", "", {16, 160, 244, 22}},
-    {Kind::TextBox, "Text3", "", {264, 156, 160, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label5", "", {432, 160, 32, 22}},
-    {Kind::TextBox, "Text4", "", {16, 196, 448, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 240, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 240, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 240, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 240, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {432, 242, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .caption = "Select one of the following", .rect = {16, 8, 448, 56}},
+    {.kind = Kind::Option, .name = "opt1", .caption = "Molarity", .rect = {16, 24, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .caption = "Molality", .rect = {200, 24, 140, 24}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Enter the moles of solute", .rect = {16, 84, 244, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text1",
+     .rect = {264, 80, 200, 26},
+     .toolTip = "Enter a number of moles.",
+     .filter = &kMolarityFilter},
+    {.kind = Kind::Label, .name = "Label3", .rect = {16, 120, 244, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {264, 116, 200, 26},
+     .toolTip = "Enter liters or kilograms.",
+     .filter = &kMolarityFilter},
+    {.kind = Kind::Label, .name = "Label4", .rect = {16, 160, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {264, 156, 160, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label5", .rect = {432, 160, 32, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {16, 196, 448, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 240, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 240, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 240, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 240, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {432, 242, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -49,7 +67,7 @@ frmMolarity::frmMolarity(Program& program)
 void frmMolarity::Form_Load() {
   HideForm("frmSolutions");
   UnloadForm("frmSolutions");
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
 }
@@ -87,7 +105,7 @@ void frmMolarity::cmdOk_Click() {
 }
 
 void frmMolarity::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4"});
   ctl("Text1").SetFocus();
 }
 

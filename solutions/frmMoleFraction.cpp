@@ -15,25 +15,38 @@ constexpr std::string_view kWeight = "You must enter a valid molecular weight.";
 // No box has a Change or KeyDown handler: the buttons are enabled from the
 // start and Enter only presses the default button.
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label5", "Enter the mass and molecular weight for the solute and the solvent.", {16, 12, 448, 22}},
-    {Kind::Label, "Label1", "Mass of solute", {16, 48, 244, 22}},
-    {Kind::TextBox, "Text1", "", {264, 44, 200, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label2", "Molecular weight of solute", {16, 84, 244, 22}},
-    {Kind::TextBox, "Text2", "", {264, 80, 200, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label3", "Mass of solvent", {16, 120, 244, 22}},
-    {Kind::TextBox, "Text3", "", {264, 116, 200, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label4", "Molecular weight of solvent", {16, 156, 244, 22}},
-    {Kind::TextBox, "Text4", "", {264, 152, 200, 26}, {}, {}, -1, 0, &kFilterPoint},
-    {Kind::Label, "Label6", "Mole Fraction", {16, 200, 244, 22}},
-    {Kind::TextBox, "Text6", "", {264, 196, 200, 26}, {}, {}, -1, kDisabled},
-    {Kind::Label, "Label7", "Mole Percent", {16, 236, 244, 22}},
-    {Kind::TextBox, "Text7", "", {264, 232, 200, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text5", "", {16, 272, 448, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 316, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 316, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 316, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 316, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {432, 318, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label,
+     .name = "Label5",
+     .caption = "Enter the mass and molecular weight for the solute and the solvent.",
+     .rect = {16, 12, 448, 22}},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Mass of solute", .rect = {16, 48, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text1", .rect = {264, 44, 200, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label2", .caption = "Molecular weight of solute", .rect = {16, 84, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text2", .rect = {264, 80, 200, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label3", .caption = "Mass of solvent", .rect = {16, 120, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {264, 116, 200, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label4", .caption = "Molecular weight of solvent", .rect = {16, 156, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {264, 152, 200, 26}, .filter = &kFilterPoint},
+    {.kind = Kind::Label, .name = "Label6", .caption = "Mole Fraction", .rect = {16, 200, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {264, 196, 200, 26}, .flags = kDisabled},
+    {.kind = Kind::Label, .name = "Label7", .caption = "Mole Percent", .rect = {16, 236, 244, 22}},
+    {.kind = Kind::TextBox, .name = "Text7", .rect = {264, 232, 200, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {16, 272, 448, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 316, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 316, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 316, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 316, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {432, 318, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 }  // namespace
@@ -46,9 +59,7 @@ frmMoleFraction::frmMoleFraction(Program& program)
   Bind("cmdClear", Ev::Click, &frmMoleFraction::cmdClear_Click);
 }
 
-void frmMoleFraction::Form_Load() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
-}
+void frmMoleFraction::Form_Load() { EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"}); }
 
 void frmMoleFraction::cmdOk_Click() {
   Trapped(kTrapWordsInfo, [&] {
@@ -83,7 +94,7 @@ void frmMoleFraction::cmdOk_Click() {
 }
 
 void frmMoleFraction::cmdClear_Click() {
-  for (const char* box : {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"}) ctl(box).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"});
   ctl("Text1").SetFocus();
 }
 

@@ -14,26 +14,60 @@ constexpr std::string_view kConcentrationTip = "Enter the concentration in moles
 
 // The captions here are replaced when the screen loads.
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label6", "Enter the following data from a balanced equation.", {16, 12, 448, 22}, {}, {}, -1, kBold},
-    {Kind::Label, "Label2", "Enter the concentration of product 1", {16, 48, 264, 22}},
-    {Kind::TextBox, "Text1", "", {284, 44, 180, 26}, kConcentrationTip, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label1", "Enter the coefficient of product 1", {16, 84, 264, 22}},
-    {Kind::TextBox, "Text5", "", {284, 80, 180, 26}, {}, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label3", "Enter the concentration of product 2", {16, 120, 264, 22}},
-    {Kind::TextBox, "Text2", "", {284, 116, 180, 26}, kConcentrationTip, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label5", "Enter the coefficient of product 2", {16, 156, 264, 22}},
-    {Kind::TextBox, "Text6", "", {284, 152, 180, 26}, {}, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label4", "The solubility product constant is ", {16, 196, 264, 22}},
-    {Kind::TextBox, "Text3", "", {284, 192, 180, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text4", "", {16, 232, 448, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 276, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 276, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 276, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 276, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {432, 278, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label,
+     .name = "Label6",
+     .caption = "Enter the following data from a balanced equation.",
+     .rect = {16, 12, 448, 22},
+     .flags = kBold},
+    {.kind = Kind::Label,
+     .name = "Label2",
+     .caption = "Enter the concentration of product 1",
+     .rect = {16, 48, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text1",
+     .rect = {284, 44, 180, 26},
+     .toolTip = kConcentrationTip,
+     .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label1", .caption = "Enter the coefficient of product 1", .rect = {16, 84, 264, 22}},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {284, 80, 180, 26}, .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label,
+     .name = "Label3",
+     .caption = "Enter the concentration of product 2",
+     .rect = {16, 120, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {284, 116, 180, 26},
+     .toolTip = kConcentrationTip,
+     .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label,
+     .name = "Label5",
+     .caption = "Enter the coefficient of product 2",
+     .rect = {16, 156, 264, 22}},
+    {.kind = Kind::TextBox, .name = "Text6", .rect = {284, 152, 180, 26}, .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label,
+     .name = "Label4",
+     .caption = "The solubility product constant is ",
+     .rect = {16, 196, 264, 22}},
+    {.kind = Kind::TextBox, .name = "Text3", .rect = {284, 192, 180, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {16, 232, 448, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 276, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 276, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 276, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 276, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {432, 278, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
-constexpr const char* kBoxes[] = {"Text1", "Text2", "Text3", "Text5", "Text6", "Text4"};
+constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text5", "Text6", "Text4"};
 
 }  // namespace
 
@@ -52,7 +86,7 @@ void frmSolubilityConstants::Form_Load() {
   ctl("Label3").SetCaption("Enter the concentration of product 2.");
   ctl("Label5").SetCaption("Enter the coefficient of product 2.");
   ctl("Label4").SetCaption("The solubility product constant (Ksp) is ");
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   DisableOkAndPrint();
 }
 
@@ -80,7 +114,7 @@ void frmSolubilityConstants::cmdOk_Click() {
 }
 
 void frmSolubilityConstants::cmdClear_Click() {
-  for (const char* box : kBoxes) ctl(box).SetText("");
+  EmptyBoxes(kBoxes);
   for (const char* box : {"Text1", "Text2", "Text3"}) ctl(box).SetVisible(true);
   ctl("Label2").SetCaption("Enter the concentration of product 1.");
   ctl("Label3").SetCaption("Enter the concentration of product 2.");

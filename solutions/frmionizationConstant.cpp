@@ -17,27 +17,61 @@ constexpr std::string_view kIntegerTip = "Enter an integer from a balanced equat
 
 // The captions are written when the screen loads.
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "Label8", "", {16, 12, 448, 22}, {}, {}, -1, kBold},
-    {Kind::Label, "Label1", "", {16, 48, 264, 22}},
-    {Kind::TextBox, "Text1", "", {284, 44, 180, 26}, kMolesTip, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label5", "", {16, 84, 264, 22}},
-    {Kind::TextBox, "Text6", "", {284, 80, 180, 26}, kIntegerTip, {}, -1, 0, &kFilterMinusPointE},
-    {Kind::Label, "Label2", "", {16, 120, 264, 22}},
-    {Kind::TextBox, "Text2", "", {284, 116, 180, 26}, kMolesTip, {}, -1, 0, &kFilterSignsPointE},
-    {Kind::Label, "Label6", "", {16, 156, 264, 22}},
-    {Kind::TextBox, "Text7", "", {284, 152, 180, 26}, kIntegerTip, {}, -1, 0, &kFilterMinusPointE},
-    {Kind::Label, "Label3", "", {16, 192, 264, 22}},
-    {Kind::TextBox, "Text3", "", {284, 188, 180, 26}, kMolesTip, {}, -1, 0, &kFilterMinusPointE},
-    {Kind::Label, "Label7", "", {16, 228, 264, 22}},
-    {Kind::TextBox, "Text8", "", {284, 224, 180, 26}, kIntegerTip, {}, -1, 0, &kFilterMinusPointE},
-    {Kind::Label, "Label4", "", {16, 268, 264, 22}},
-    {Kind::TextBox, "Text4", "", {284, 264, 180, 26}, {}, {}, -1, kDisabled},
-    {Kind::TextBox, "Text5", "", {16, 300, 448, 26}, {}, {}, -1, kDisabled},
-    {Kind::Button, "cmdOk", "Ok", {16, 344, 80, 30}, "Press to calculate your answer.", {}, -1, kDefault},
-    {Kind::Button, "cmdClear", "Clear", {104, 344, 80, 30}},
-    {Kind::Button, "cmdCancel", "Cancel", {192, 344, 80, 30}, {}, {}, -1, kCancel},
-    {Kind::Button, "cmdPrint", "Print", {280, 344, 80, 30}},
-    {Kind::Button, "cmdHelp", "?", {432, 346, 32, 26}, "Press for help", {}, -1, kSmall},
+    {.kind = Kind::Label, .name = "Label8", .rect = {16, 12, 448, 22}, .flags = kBold},
+    {.kind = Kind::Label, .name = "Label1", .rect = {16, 48, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text1",
+     .rect = {284, 44, 180, 26},
+     .toolTip = kMolesTip,
+     .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label5", .rect = {16, 84, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text6",
+     .rect = {284, 80, 180, 26},
+     .toolTip = kIntegerTip,
+     .filter = &kFilterMinusPointE},
+    {.kind = Kind::Label, .name = "Label2", .rect = {16, 120, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text2",
+     .rect = {284, 116, 180, 26},
+     .toolTip = kMolesTip,
+     .filter = &kFilterSignsPointE},
+    {.kind = Kind::Label, .name = "Label6", .rect = {16, 156, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text7",
+     .rect = {284, 152, 180, 26},
+     .toolTip = kIntegerTip,
+     .filter = &kFilterMinusPointE},
+    {.kind = Kind::Label, .name = "Label3", .rect = {16, 192, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text3",
+     .rect = {284, 188, 180, 26},
+     .toolTip = kMolesTip,
+     .filter = &kFilterMinusPointE},
+    {.kind = Kind::Label, .name = "Label7", .rect = {16, 228, 264, 22}},
+    {.kind = Kind::TextBox,
+     .name = "Text8",
+     .rect = {284, 224, 180, 26},
+     .toolTip = kIntegerTip,
+     .filter = &kFilterMinusPointE},
+    {.kind = Kind::Label, .name = "Label4", .rect = {16, 268, 264, 22}},
+    {.kind = Kind::TextBox, .name = "Text4", .rect = {284, 264, 180, 26}, .flags = kDisabled},
+    {.kind = Kind::TextBox, .name = "Text5", .rect = {16, 300, 448, 26}, .flags = kDisabled},
+    {.kind = Kind::Button,
+     .name = "cmdOk",
+     .caption = "Ok",
+     .rect = {16, 344, 80, 30},
+     .toolTip = "Press to calculate your answer.",
+     .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {104, 344, 80, 30}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {192, 344, 80, 30}, .flags = kCancel},
+    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {280, 344, 80, 30}},
+    {.kind = Kind::Button,
+     .name = "cmdHelp",
+     .caption = "?",
+     .rect = {432, 346, 32, 26},
+     .toolTip = "Press for help",
+     .flags = kSmall},
 };
 
 constexpr std::pair<const char*, std::string_view> kCaptions[] = {
@@ -70,7 +104,7 @@ frmionizationConstant::frmionizationConstant(Program& program)
 
 void frmionizationConstant::Form_Load() {
   for (const auto& [label, caption] : kCaptions) ctl(label).SetCaption(std::string(caption));
-  for (int i = 1; i <= 8; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"});
   DisableOkAndPrint();
 }
 
@@ -106,7 +140,7 @@ void frmionizationConstant::cmdOk_Click() {
 }
 
 void frmionizationConstant::cmdClear_Click() {
-  for (int i = 1; i <= 8; ++i) ctl("Text" + std::to_string(i)).SetText("");
+  EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7", "Text8"});
   ctl("Text1").SetFocus();
 }
 

@@ -3,7 +3,6 @@
 #include <vector>
 
 #include "data/store.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 
@@ -186,16 +185,21 @@ constexpr int kButtonTop = kListTop + kListH + 14;
 std::vector<ControlSpec> Controls(const DataTableSpec& design) {
   const int w = design.listWidth;
   return {
-      {Kind::Label, design.headerLabel, design.header, {kMargin, kMargin, w, kHeaderH}},
-      {Kind::ListBox, "List1", "", {kMargin, kListTop, w, kListH}, design.listToolTip, {}, -1, kFixedPitch},
-      {Kind::Button,
-       "cmdCancel",
-       "Cancel",
-       {kMargin + w - kButtonW, kButtonTop, kButtonW, kButtonH},
-       design.cancelToolTip,
-       {},
-       -1,
-       kCancel},
+      {.kind = Kind::Label,
+       .name = design.headerLabel,
+       .caption = design.header,
+       .rect = {kMargin, kMargin, w, kHeaderH}},
+      {.kind = Kind::ListBox,
+       .name = "List1",
+       .rect = {kMargin, kListTop, w, kListH},
+       .toolTip = design.listToolTip,
+       .flags = kFixedPitch},
+      {.kind = Kind::Button,
+       .name = "cmdCancel",
+       .caption = "Cancel",
+       .rect = {kMargin + w - kButtonW, kButtonTop, kButtonW, kButtonH},
+       .toolTip = design.cancelToolTip,
+       .flags = kCancel},
   };
 }
 

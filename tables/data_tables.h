@@ -8,8 +8,8 @@
 #include <string_view>
 
 #include "data/engine.h"
+#include "data/padded_row.h"
 #include "shell/screen_frame.h"
-#include "tables/padded_row.h"
 
 namespace orv {
 

@@ -6,7 +6,6 @@
 #include "shell/chart.h"
 #include "shell/numbers.h"
 #include "shell/screen_frame.h"
-#include "shell/screens/module1.h"
 
 namespace orv {
 
@@ -16,9 +15,9 @@ constexpr int kWidth = 720;
 constexpr int kHeight = 500;
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Chart, "MSChart1", "", {12, 12, 696, 432}},
-    {Kind::Button, "cmdDescription", "Description", {474, 456, 112, 32}},
-    {Kind::Button, "cmdCancel", "Cancel", {596, 456, 112, 32}, {}, {}, -1, kCancel},
+    {.kind = Kind::Chart, .name = "MSChart1", .rect = {12, 12, 696, 432}},
+    {.kind = Kind::Button, .name = "cmdDescription", .caption = "Description", .rect = {474, 456, 112, 32}},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {596, 456, 112, 32}, .flags = kCancel},
 };
 
 constexpr std::string_view kCategoryTitle = "Atomic Number";

@@ -107,29 +107,52 @@ constexpr std::string_view kHeadingTip = "Click on an element to see its vital d
 // The heading and the key, in two rows, in the gap above the transition
 // metals; the series names in front of the series rows; Cancel below.
 constexpr ControlSpec kFixed[] = {
-    {Kind::Label,
-     "Label28",
-     "Periodic Table Of The Elements",
-     {ColumnLeft(3), 38, 10 * kPitch - 1, 30},
-     kHeadingTip,
-     {},
-     -1,
-     kLarge | kBold | kCenter},
-    {Kind::Label, "Label29", "Gray = solids", {ColumnLeft(3) + 44, 74, 100, 20}, {}, {}, -1, kBold | kCenter},
-    {Kind::Label, "Label30", "Liquids", {ColumnLeft(3) + 160, 74, 64, 20}, {}, {}, -1, kBold | kCenter},
-    {Kind::Label, "Label31", "Gases", {ColumnLeft(3) + 240, 74, 56, 20}, {}, {}, -1, kBold | kCenter},
-    {Kind::Label, "Label32", "Synthetic", {ColumnLeft(3) + 82, 98, 76, 20}, {}, {}, -1, kBold | kCenter},
-    {Kind::Label, "Label33", "Metalloids", {ColumnLeft(3) + 174, 98, 84, 20}, {}, {}, -1, kBold | kCenter},
-    {Kind::Label,
-     "Label1",
-     "*Lanthanide Series",
-     {4, kLanthanideTop + 6, ColumnLeft(5) - 10, 22},
-     {},
-     {},
-     -1,
-     kRightAlign},
-    {Kind::Label, "Label2", "#Actinide Series", {4, kActinideTop + 6, ColumnLeft(5) - 10, 22}, {}, {}, -1, kRightAlign},
-    {Kind::Button, "cmdCancel", "Cancel", {ColumnLeft(18) + kButton - 84, 372, 84, 30}, kCancelTip},
+    {.kind = Kind::Label,
+     .name = "Label28",
+     .caption = "Periodic Table Of The Elements",
+     .rect = {ColumnLeft(3), 38, 10 * kPitch - 1, 30},
+     .toolTip = kHeadingTip,
+     .flags = kLarge | kBold | kCenter},
+    {.kind = Kind::Label,
+     .name = "Label29",
+     .caption = "Gray = solids",
+     .rect = {ColumnLeft(3) + 44, 74, 100, 20},
+     .flags = kBold | kCenter},
+    {.kind = Kind::Label,
+     .name = "Label30",
+     .caption = "Liquids",
+     .rect = {ColumnLeft(3) + 160, 74, 64, 20},
+     .flags = kBold | kCenter},
+    {.kind = Kind::Label,
+     .name = "Label31",
+     .caption = "Gases",
+     .rect = {ColumnLeft(3) + 240, 74, 56, 20},
+     .flags = kBold | kCenter},
+    {.kind = Kind::Label,
+     .name = "Label32",
+     .caption = "Synthetic",
+     .rect = {ColumnLeft(3) + 82, 98, 76, 20},
+     .flags = kBold | kCenter},
+    {.kind = Kind::Label,
+     .name = "Label33",
+     .caption = "Metalloids",
+     .rect = {ColumnLeft(3) + 174, 98, 84, 20},
+     .flags = kBold | kCenter},
+    {.kind = Kind::Label,
+     .name = "Label1",
+     .caption = "*Lanthanide Series",
+     .rect = {4, kLanthanideTop + 6, ColumnLeft(5) - 10, 22},
+     .flags = kRightAlign},
+    {.kind = Kind::Label,
+     .name = "Label2",
+     .caption = "#Actinide Series",
+     .rect = {4, kActinideTop + 6, ColumnLeft(5) - 10, 22},
+     .flags = kRightAlign},
+    {.kind = Kind::Button,
+     .name = "cmdCancel",
+     .caption = "Cancel",
+     .rect = {ColumnLeft(18) + kButton - 84, 372, 84, 30},
+     .toolTip = kCancelTip},
 };
 
 // The colours of the heading and of the key's words.
@@ -158,30 +181,27 @@ class PeriodicDesign {
         for (const Renamed& r : kRenamed) {
           if (r.caption == caption) name = r.name;
         }
-        controls_.push_back(
-            {Kind::Button, name, caption, {ColumnLeft(column), RowTop(run.row), kButton, kButton}, {}, {}, -1, kBold});
+        controls_.push_back({.kind = Kind::Button,
+                             .name = name,
+                             .caption = caption,
+                             .rect = {ColumnLeft(column), RowTop(run.row), kButton, kButton},
+                             .flags = kBold});
         ++column;
       }
     }
     for (int period = 1; period <= 7; ++period) {
-      controls_.push_back({Kind::Label,
-                           Keep("Label" + std::to_string(period + 2)),
-                           Keep(std::to_string(period)),
-                           {8, RowTop(period) + 6, 22, 22},
-                           {},
-                           {},
-                           -1,
-                           kCenter});
+      controls_.push_back({.kind = Kind::Label,
+                           .name = Keep("Label" + std::to_string(period + 2)),
+                           .caption = Keep(std::to_string(period)),
+                           .rect = {8, RowTop(period) + 6, 22, 22},
+                           .flags = kCenter});
     }
     for (int group = 1; group <= 18; ++group) {
-      controls_.push_back({Kind::Label,
-                           Keep("Label" + std::to_string(group + 9)),
-                           Keep(std::to_string(group)),
-                           {ColumnLeft(group), RowTop(TopRow(group)) - 18, kButton, 16},
-                           {},
-                           {},
-                           -1,
-                           kCenter | kSmall});
+      controls_.push_back({.kind = Kind::Label,
+                           .name = Keep("Label" + std::to_string(group + 9)),
+                           .caption = Keep(std::to_string(group)),
+                           .rect = {ColumnLeft(group), RowTop(TopRow(group)) - 18, kButton, 16},
+                           .flags = kCenter | kSmall});
     }
     controls_.insert(controls_.end(), std::begin(kFixed), std::end(kFixed));
   }

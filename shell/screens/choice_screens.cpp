@@ -26,17 +26,17 @@ std::vector<ControlSpec> ButtonControls(const ChoiceSpec& design) {
   for (std::size_t i = 0; i < n; ++i) {
     const int col = static_cast<int>(i) / rows;
     const int row = static_cast<int>(i) % rows;
-    out.push_back({Kind::Button,
-                   design.buttons[i].control,
-                   design.buttons[i].caption,
-                   {kMargin + col * (kButtonW + kColumnGap), kMargin + row * kStep, kButtonW, kButtonH}});
+    out.push_back({.kind = Kind::Button,
+                   .name = design.buttons[i].control,
+                   .caption = design.buttons[i].caption,
+                   .rect = {kMargin + col * (kButtonW + kColumnGap), kMargin + row * kStep, kButtonW, kButtonH}});
   }
   const int closerW = 96;
-  out.push_back({Kind::Button,
-                 design.closer,
-                 design.closerCaption,
-                 {Width(n) - kMargin - closerW, kMargin + rows * kStep + 14, closerW, kButtonH},
-                 design.closerToolTip});
+  out.push_back({.kind = Kind::Button,
+                 .name = design.closer,
+                 .caption = design.closerCaption,
+                 .rect = {Width(n) - kMargin - closerW, kMargin + rows * kStep + 14, closerW, kButtonH},
+                 .toolTip = design.closerToolTip});
   return out;
 }
 
@@ -143,14 +143,30 @@ std::vector<ControlSpec> OptionControls(const OptionChoiceSpec& design) {
   std::vector<ControlSpec> out;
   const int n = static_cast<int>(design.options.size());
   const int frameH = 34 + n * kOptionH;
-  out.push_back({Kind::Frame, "Frame1", design.frameCaption, {kMargin, kMargin, 260, frameH}, design.frameToolTip});
+  out.push_back({.kind = Kind::Frame,
+                 .name = "Frame1",
+                 .caption = design.frameCaption,
+                 .rect = {kMargin, kMargin, 260, frameH},
+                 .toolTip = design.frameToolTip});
   for (int i = 0; i < n; ++i) {
     const OptionChoice& o = design.options[static_cast<std::size_t>(i)];
-    out.push_back({Kind::Option, o.control, o.caption, {16, 26 + i * kOptionH, 228, 24}, {}, "Frame1"});
+    out.push_back({.kind = Kind::Option,
+                   .name = o.control,
+                   .caption = o.caption,
+                   .rect = {16, 26 + i * kOptionH, 228, 24},
+                   .container = "Frame1"});
   }
   const int y = kMargin + frameH + 14;
-  out.push_back({Kind::Button, "cmdOk", "Ok", {kMargin + 260 - 2 * 96 - 8, y, 96, kButtonH}, design.okToolTip});
-  out.push_back({Kind::Button, "cmdCancel", "Cancel", {kMargin + 260 - 96, y, 96, kButtonH}, design.cancelToolTip});
+  out.push_back({.kind = Kind::Button,
+                 .name = "cmdOk",
+                 .caption = "Ok",
+                 .rect = {kMargin + 260 - 2 * 96 - 8, y, 96, kButtonH},
+                 .toolTip = design.okToolTip});
+  out.push_back({.kind = Kind::Button,
+                 .name = "cmdCancel",
+                 .caption = "Cancel",
+                 .rect = {kMargin + 260 - 96, y, 96, kButtonH},
+                 .toolTip = design.cancelToolTip});
   return out;
 }
 

@@ -5,12 +5,12 @@ namespace orv {
 namespace {
 
 constexpr ControlSpec kControls[] = {
-    {Kind::Label, "lblTitle", "", {24, 16, 384, 32}, {}, {}, -1, kBold | kLarge},
-    {Kind::Label, "lblVersion", "", {24, 52, 384, 22}, {}, {}, -1, kBold},
-    {Kind::Label, "lblDescription", "", {24, 86, 384, 60}},
-    {Kind::Label, "lblDisclaimer", "", {24, 162, 256, 62}, {}, {}, -1, kSmall},
-    {Kind::Button, "cmdOk", "Ok", {296, 160, 112, 30}, {}, {}, -1, kDefault | kCancel},
-    {Kind::Button, "cmdSysInfo", "&System Info...", {296, 198, 112, 30}},
+    {.kind = Kind::Label, .name = "lblTitle", .rect = {24, 16, 384, 32}, .flags = kBold | kLarge},
+    {.kind = Kind::Label, .name = "lblVersion", .rect = {24, 52, 384, 22}, .flags = kBold},
+    {.kind = Kind::Label, .name = "lblDescription", .rect = {24, 86, 384, 60}},
+    {.kind = Kind::Label, .name = "lblDisclaimer", .rect = {24, 162, 256, 62}, .flags = kSmall},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {296, 160, 112, 30}, .flags = kDefault | kCancel},
+    {.kind = Kind::Button, .name = "cmdSysInfo", .caption = "&System Info...", .rect = {296, 198, 112, 30}},
 };
 
 constexpr std::string_view kUnavailable = "System Information Is Unavailable At This Time";

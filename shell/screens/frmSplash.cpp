@@ -4,13 +4,22 @@ namespace orv {
 
 namespace {
 constexpr ControlSpec kControls[] = {
-    {Kind::Frame, "Frame1", "", {8, 8, 464, 268}},
-    {Kind::Image, "imgLogo", "", {20, 28, 128, 128}, {}, "Frame1"},
-    {Kind::Label, "lblProductName", "", {164, 30, 286, 60}, {}, "Frame1", -1, kBold | kLarge},
-    {Kind::Label, "lblCompanyProduct", "Orvanta V1.5", {164, 96, 286, 24}, {}, "Frame1", -1, kBold},
-    {Kind::Label, "Label3", "", {164, 126, 286, 24}, {}, "Frame1"},
-    {Kind::Label, "Label1", "", {20, 170, 430, 58}, {}, "Frame1"},
-    {Kind::Label, "Label2", "", {20, 232, 430, 24}, {}, "Frame1", -1, kSmall},
+    {.kind = Kind::Frame, .name = "Frame1", .rect = {8, 8, 464, 268}},
+    {.kind = Kind::Image, .name = "imgLogo", .rect = {20, 28, 128, 128}, .container = "Frame1"},
+    {.kind = Kind::Label,
+     .name = "lblProductName",
+     .rect = {164, 30, 286, 60},
+     .container = "Frame1",
+     .flags = kBold | kLarge},
+    {.kind = Kind::Label,
+     .name = "lblCompanyProduct",
+     .caption = "Orvanta V1.5",
+     .rect = {164, 96, 286, 24},
+     .container = "Frame1",
+     .flags = kBold},
+    {.kind = Kind::Label, .name = "Label3", .rect = {164, 126, 286, 24}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label1", .rect = {20, 170, 430, 58}, .container = "Frame1"},
+    {.kind = Kind::Label, .name = "Label2", .rect = {20, 232, 430, 24}, .container = "Frame1", .flags = kSmall},
 };
 }  // namespace
 

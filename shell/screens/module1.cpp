@@ -1,5 +1,6 @@
 #include "shell/screens/module1.h"
 
+#include "data/store.h"
 #include "shell/screen_frame.h"
 
 namespace orv {

@@ -2,7 +2,6 @@
 // Start-up: shows the main screen and the splash above it, then opens the
 // database beside the executable.
 
-#include "data/store.h"
 #include "shell/program.h"
 
 namespace orv {
@@ -12,8 +11,5 @@ void Main(Program& program);
 
 // Opens the database read-only; on failure shows why and returns false.
 bool OpenDataStore(Program& program);
-
-// The program-wide data objects of this run.
-inline data::DataStore& Store(Program& program) { return program.Module<data::DataStore>(); }
 
 }  // namespace orv

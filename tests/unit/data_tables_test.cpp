@@ -5,9 +5,9 @@
 
 #include <string>
 
+#include "data/padded_row.h"
 #include "data/store.h"
 #include "screen_run.h"
-#include "tables/padded_row.h"
 
 namespace orv {
 namespace {

@@ -27,8 +27,8 @@ using test::Boxes;
 
 const Box kNoObject{"Object variable or With block variable not set", Icon::Information, "Orvanta"};
 
-// A bare screen for the scanners' own traps to show their messages on, and
-// the data store open on the real database.
+// The messages the scanners' own traps show, and the data store open on the
+// real database.
 class FormulaTest : public ::testing::Test {
  protected:
   void SetUp() override {
@@ -50,7 +50,7 @@ class FormulaTest : public ::testing::Test {
     m.ClearWeights();
     m.FormulaText = formula;
     try {
-      m.ScanWeights(form, store, L != 0 ? L : Len(formula), hydrateCount, weight);
+      m.ScanWeights(messages, store, L != 0 ? L : Len(formula), hydrateCount, weight);
     } catch (const RuntimeError& e) {
       return e.code();
     }
@@ -59,7 +59,7 @@ class FormulaTest : public ::testing::Test {
 
   // The side's rows as the reactions screen lists them: "C1 O3 H2".
   std::string Side(const std::string& side, data::DataStore* from = nullptr) {
-    m.ParseSide(form, from != nullptr ? *from : store, side);
+    m.ParseSide(messages, from != nullptr ? *from : store, side);
     std::string out;
     for (int r = 1; r <= FormulaModule::kSideRows; ++r) {
       if (m.SideSymbol(r).empty()) continue;
@@ -68,10 +68,7 @@ class FormulaTest : public ::testing::Test {
     return out;
   }
 
-  ScreenRegistry registry;
   test::FakeMessages messages;
-  Program program{registry, {.messages = &messages}, ORVANTA_BIN_DIR};
-  Form form{program, {"frmTest", "Test", 100, 100}, {}};
   data::DataStore store;
   FormulaModule m;
   std::string hydrateCount = "0";
@@ -195,8 +192,8 @@ TEST_F(FormulaTest, AtomCounterOverflowsInItsOwnTraps) {
 
 TEST_F(FormulaTest, ElementSymbolsAreReadAgainOnEveryTest) {
   store.Elements.At(1, 0) = "Zz";
-  EXPECT_TRUE(IsElement(form, store, "H"));
-  EXPECT_TRUE(IsElement(form, store, "Mt"));  // the 109th row
+  EXPECT_TRUE(IsElement(messages, store, "H"));
+  EXPECT_TRUE(IsElement(messages, store, "Mt"));  // the 109th row
   // Without the database every test of the six walks shows the engine's words.
   data::DataStore none;
   EXPECT_EQ(Side("H2", &none), "");

@@ -9,7 +9,6 @@
 #include "data/store.h"
 #include "screen_run.h"
 #include "shell/form.h"
-#include "shell/screens/module1.h"
 #include "tables/frmPeriodic.h"
 
 namespace orv {

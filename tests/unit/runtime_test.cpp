@@ -15,14 +15,14 @@ namespace {
 constexpr KeyFilter kFilter{".E", "Test"};
 
 constexpr ControlSpec kControls[] = {
-    {Kind::TextBox, "Text1", "", {}, {}, {}, -1, 0, &kFilter},
-    {Kind::TextBox, "Text2", ""},
-    {Kind::Button, "cmdOk", "Ok", {}, {}, {}, -1, kDefault},
-    {Kind::Button, "cmdCancel", "Cancel", {}, {}, {}, -1, kCancel},
-    {Kind::Frame, "Frame1", ""},
-    {Kind::Option, "opt1", "", {}, {}, "Frame1"},
-    {Kind::Option, "opt2", "", {}, {}, "Frame1"},
-    {Kind::Option, "optOther", ""},
+    {.kind = Kind::TextBox, .name = "Text1", .filter = &kFilter},
+    {.kind = Kind::TextBox, .name = "Text2"},
+    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .flags = kDefault},
+    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .flags = kCancel},
+    {.kind = Kind::Frame, .name = "Frame1"},
+    {.kind = Kind::Option, .name = "opt1", .container = "Frame1"},
+    {.kind = Kind::Option, .name = "opt2", .container = "Frame1"},
+    {.kind = Kind::Option, .name = "optOther"},
 };
 
 // Records every routine it runs, in order.

@@ -1,4 +1,4 @@
-#include "tables/padded_row.h"
+#include "data/padded_row.h"
 
 #include "shell/numbers.h"
 #include "shell/text.h"
