@@ -286,90 +286,116 @@ Control* Program::MenuShortcut(Form& form, const Key& key) {
 bool Program::UserKey(Form& form, Control* focus, const Key& key) {
   bool taken = false;
   Outermost o(*this);
-  o.Run([&] {
-    if (!form.Loaded() || !form.Visible()) return;
-    if (focus != nullptr && !focus->TakesInput()) focus = nullptr;
-
-    // A menu entry's shortcut goes to the menu before the screen sees the key.
-    if (Control* entry = MenuShortcut(form, key)) {
-      taken = true;
-      if (entry->TakesInput()) form.Fire(entry, Ev::Click);
-      return;
-    }
-
-    // The screen sees every key first.
-    EventArgs down;
-    down.keyCode = key.code;
-    down.shift = key.shift;
-    form.FireForm(Ev::KeyDown, down);
-    taken = true;
-    if (!form.Loaded() || !form.Visible()) return;
-
-    // Enter and Esc press an enabled default or cancel button before the
-    // control in focus sees the key.
-    if (key.code == kKeyReturn || key.code == kKeyEscape) {
-      Control* button = key.code == kKeyReturn ? form.DefaultButton() : form.CancelButton();
-      if (button != nullptr && button->TakesInput()) {
-        form.Fire(button, Ev::Click);
-        return;
-      }
-    }
-    // With no enabled default button to take it, Enter presses the command
-    // button in focus, as the space bar does.
-    const bool onButton = focus != nullptr && focus->kind() == Kind::Button;
-    if (key.code == kKeyReturn && onButton && key.shift == 0) {
-      form.Fire(focus, Ev::Click);
-      return;
-    }
-    if (key.code == kKeyTab) {
-      MoveFocus(form, focus, (key.shift & kShiftMask) != 0);
-      return;
-    }
-    if (focus != nullptr) {
-      down.keyCode = key.code;
-      form.Fire(focus, Ev::KeyDown, down);
-      if (!form.Loaded() || !form.Visible()) return;
-      if (!focus->TakesInput()) focus = nullptr;
-    }
-    // The arrow keys move from a command button to the nearest one that way.
-    if (onButton && focus != nullptr && IsArrowKey(key.code) && key.shift == 0) {
-      if (Control* next = ButtonToward(*focus, key.code)) next->SetFocus();
-      return;
-    }
-
-    const bool box = focus != nullptr && (focus->kind() == Kind::TextBox || focus->kind() == Kind::RichText);
-    if (key.ascii != 0) {
-      EventArgs press;
-      press.keyAscii = key.ascii;
-      form.FireForm(Ev::KeyPress, press);
-      if (!form.Loaded()) return;
-      // Esc is the screen's key: with no cancel button to press, it reaches
-      // the screen's own KeyPress and nothing else.
-      if (press.keyAscii == kKeyEscape) press.keyAscii = 0;
-      if (focus != nullptr && press.keyAscii != 0) {
-        form.Fire(focus, Ev::KeyPress, press);
-        if (focus->filter() != nullptr) focus->filter()->Apply(form, press.keyAscii);
-        if (!form.Loaded() || !focus->TakesInput()) return;
-      }
-      if (box && press.keyAscii != 0) TypeChar(*focus, press.keyAscii);
-    } else if (box) {
-      EditBox(*focus, key);
-    }
-    if (!box) taken = false;  // the toolkit moves in lists, presses buttons
-    // Enter on a tree's selected node opens it as a double click does.
-    if (key.code == kKeyReturn && focus != nullptr && focus->kind() == Kind::Tree && form.Loaded() &&
-        focus->TakesInput() && focus->tree().SelectedItem() != nullptr) {
-      form.Fire(focus, Ev::DblClick);
-      taken = true;
-    }
-    if (focus != nullptr && form.Loaded() && focus->TakesInput()) {
-      EventArgs up;
-      up.keyCode = key.code;
-      up.shift = key.shift;
-      form.Fire(focus, Ev::KeyUp, up);
-    }
-  });
+  o.Run([&] { taken = RouteKey(form, focus, key); });
   return taken;
+}
+
+// One key's way through a screen, in the order the steps must run: the menu's
+// shortcuts, the screen's KeyDown, the window's own keys, the control's
+// KeyDown, then the character and the KeyUp. Any routine on the way may unload
+// or hide the screen, which ends the key's way there.
+bool Program::RouteKey(Form& form, Control* focus, const Key& key) {
+  if (!form.Loaded() || !form.Visible()) return false;
+  if (focus != nullptr && !focus->TakesInput()) focus = nullptr;
+
+  // A menu entry's shortcut goes to the menu before the screen sees the key.
+  if (Control* entry = MenuShortcut(form, key)) {
+    if (entry->TakesInput()) form.Fire(entry, Ev::Click);
+    return true;
+  }
+
+  // The screen sees every key first.
+  EventArgs down;
+  down.keyCode = key.code;
+  down.shift = key.shift;
+  form.FireForm(Ev::KeyDown, down);
+  if (!form.Loaded() || !form.Visible()) return true;
+  if (WindowKey(form, focus, key)) return true;
+
+  const bool onButton = focus != nullptr && focus->kind() == Kind::Button;
+  if (focus != nullptr) {
+    down.keyCode = key.code;
+    form.Fire(focus, Ev::KeyDown, down);
+    if (!form.Loaded() || !form.Visible()) return true;
+    if (!focus->TakesInput()) focus = nullptr;
+  }
+  // The arrow keys move from a command button to the nearest one that way.
+  if (onButton && focus != nullptr && IsArrowKey(key.code) && key.shift == 0) {
+    if (Control* next = ButtonToward(*focus, key.code)) next->SetFocus();
+    return true;
+  }
+  return FinishKey(form, focus, key);
+}
+
+// The keys the window handles before the control in focus sees them: Enter
+// and Esc press an enabled default or cancel button, Enter presses the command
+// button in focus, Tab moves the focus. True when the key was one of these.
+bool Program::WindowKey(Form& form, Control* focus, const Key& key) {
+  if (key.code == kKeyReturn || key.code == kKeyEscape) {
+    Control* button = key.code == kKeyReturn ? form.DefaultButton() : form.CancelButton();
+    if (button != nullptr && button->TakesInput()) {
+      form.Fire(button, Ev::Click);
+      return true;
+    }
+  }
+  // With no enabled default button to take it, Enter presses the command
+  // button in focus, as the space bar does.
+  const bool onButton = focus != nullptr && focus->kind() == Kind::Button;
+  if (key.code == kKeyReturn && onButton && key.shift == 0) {
+    form.Fire(focus, Ev::Click);
+    return true;
+  }
+  if (key.code == kKeyTab) {
+    MoveFocus(form, focus, (key.shift & kShiftMask) != 0);
+    return true;
+  }
+  return false;
+}
+
+// The end of a key's way: its character (or its editing keys in a box), Enter
+// on a tree, and the KeyUp. True when the runtime took the key; outside a box
+// the toolkit moves in lists and presses buttons itself.
+bool Program::FinishKey(Form& form, Control* focus, const Key& key) {
+  const bool box = focus != nullptr && (focus->kind() == Kind::TextBox || focus->kind() == Kind::RichText);
+  if (key.ascii != 0) {
+    if (!PressChar(form, focus, key.ascii, box)) return true;
+  } else if (box) {
+    EditBox(*focus, key);
+  }
+  bool taken = box;
+  // Enter on a tree's selected node opens it as a double click does.
+  if (key.code == kKeyReturn && focus != nullptr && focus->kind() == Kind::Tree && form.Loaded() &&
+      focus->TakesInput() && focus->tree().SelectedItem() != nullptr) {
+    form.Fire(focus, Ev::DblClick);
+    taken = true;
+  }
+  if (focus != nullptr && form.Loaded() && focus->TakesInput()) {
+    EventArgs up;
+    up.keyCode = key.code;
+    up.shift = key.shift;
+    form.Fire(focus, Ev::KeyUp, up);
+  }
+  return taken;
+}
+
+// A key's character: the screen's KeyPress, the control's KeyPress and its
+// filter, then the character typed into a box. False when a routine unloaded
+// the screen or took the input from the control, which ends the key's way.
+bool Program::PressChar(Form& form, Control* focus, int ascii, bool box) {
+  EventArgs press;
+  press.keyAscii = ascii;
+  form.FireForm(Ev::KeyPress, press);
+  if (!form.Loaded()) return false;
+  // Esc is the screen's key: with no cancel button to press, it reaches
+  // the screen's own KeyPress and nothing else.
+  if (press.keyAscii == kKeyEscape) press.keyAscii = 0;
+  if (focus != nullptr && press.keyAscii != 0) {
+    form.Fire(focus, Ev::KeyPress, press);
+    if (focus->filter() != nullptr) focus->filter()->Apply(form, press.keyAscii);
+    if (!form.Loaded() || !focus->TakesInput()) return false;
+  }
+  if (box && press.keyAscii != 0) TypeChar(*focus, press.keyAscii);
+  return true;
 }
 
 void Program::UserClick(Control& control) {

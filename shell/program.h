@@ -146,6 +146,10 @@ class Program {
   class Outermost;
   void Flush();
   void CloseAll();
+  bool RouteKey(Form& form, Control* focus, const Key& key);
+  bool WindowKey(Form& form, Control* focus, const Key& key);
+  bool FinishKey(Form& form, Control* focus, const Key& key);
+  bool PressChar(Form& form, Control* focus, int ascii, bool box);
   bool EditBox(Control& box, const Key& key);
   void TypeChar(Control& box, int ascii);
   void MoveFocus(Form& form, Control* from, bool backwards);
