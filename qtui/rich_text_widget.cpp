@@ -169,14 +169,7 @@ void RichTextWidget::ShowControl(const Control& c) {
   const std::vector<int>& offsets = padded.size() == count ? padded : c.rich().Offsets();
   // The document changes only where the text or an offset did, so that one
   // key typed into a long text costs as much as a key in a short one.
-  if (toPlainText() != shownText_) {
-    shownUtf8_.clear();
-    shownOffsets_.clear();
-    shownText_.clear();
-    QTextCursor all(document());
-    all.select(QTextCursor::Document);
-    all.removeSelectedText();
-  }
+  if (toPlainText() != shownText_) ClearShown();
   Change change = Compare(shownUtf8_, shownOffsets_, text, offsets);
   // A long text goes in a part at a time, one part each turn of the event
   // loop, so that a help file of any size shows its start at once and the
@@ -184,42 +177,9 @@ void RichTextWidget::ShowControl(const Control& c) {
   const bool more = change.last - change.first > kCharactersPerTurn;
   if (more) change.last = change.first + kCharactersPerTurn;
   if (change.removed > 0 || change.first < change.last) {
-    QTextCursor cursor(document());
-    cursor.beginEditBlock();
-    cursor.setPosition(change.position);
-    cursor.setPosition(change.position + change.removed, QTextCursor::KeepAnchor);
-    cursor.removeSelectedText();
-    // Runs of characters with the same offset go in at once.
-    const std::size_t from = ByteOffset(text, change.first);
-    const std::size_t to = ByteOffset(text, change.last);
-    std::size_t a = from;
-    for (int k = change.first; k < change.last;) {
-      const int offset = offsets[static_cast<std::size_t>(k)];
-      int next = k + 1;
-      while (next < change.last && offsets[static_cast<std::size_t>(next)] == offset) ++next;
-      std::size_t b = a;
-      for (int i = k; i < next; ++i) b = NextCharacter(text, b);
-      QTextCharFormat format;
-      format.setVerticalAlignment(AlignmentOf(offset));
-      cursor.insertText(QString::fromUtf8(text.data() + a, static_cast<qsizetype>(std::min(b, to) - a)), format);
-      a = b;
-      k = next;
-    }
-    cursor.endEditBlock();
-    // What the document now holds: the old text's ends around the new part.
+    Replace(text, offsets, change);
     if (more) {
-      const std::size_t head = ByteOffset(shownUtf8_, change.first);
-      const std::size_t tail = shownUtf8_.size() - ByteOffset(shownUtf8_, change.first + change.removedCharacters);
-      shownUtf8_ =
-          shownUtf8_.substr(0, head) + text.substr(from, to - from) + shownUtf8_.substr(shownUtf8_.size() - tail);
-      std::vector<int> held(shownOffsets_.begin(), shownOffsets_.begin() + change.first);
-      held.insert(held.end(), offsets.begin() + change.first, offsets.begin() + change.last);
-      held.insert(held.end(),
-                  shownOffsets_.end() -
-                      static_cast<std::ptrdiff_t>(shownOffsets_.size() - change.first - change.removedCharacters),
-                  shownOffsets_.end());
-      shownOffsets_ = std::move(held);
-      shownText_ = QString::fromStdString(shownUtf8_);
+      HoldPart(text, offsets, change);
       QTimer::singleShot(0, this, [this] {
         if (resync) resync();
       });
@@ -229,9 +189,70 @@ void RichTextWidget::ShowControl(const Control& c) {
       shownText_ = QString::fromStdString(text);
     }
   }
-  const QString& shown = shownText_;
-  const int start = ToPosition(shown, c.SelStart());
-  const int end = ToPosition(shown, c.SelStart() + c.SelLength());
+  ShowCaret(c.SelStart(), c.SelLength());
+  showing_ = false;
+}
+
+// The user changed the document behind the runtime's back: it is emptied and
+// shown again from nothing.
+void RichTextWidget::ClearShown() {
+  shownUtf8_.clear();
+  shownOffsets_.clear();
+  shownText_.clear();
+  QTextCursor all(document());
+  all.select(QTextCursor::Document);
+  all.removeSelectedText();
+}
+
+// Puts the characters [first, last) of the new text in place of the removed
+// part of the document, as one edit.
+void RichTextWidget::Replace(const std::string& text, const std::vector<int>& offsets, const Change& change) {
+  QTextCursor cursor(document());
+  cursor.beginEditBlock();
+  cursor.setPosition(change.position);
+  cursor.setPosition(change.position + change.removed, QTextCursor::KeepAnchor);
+  cursor.removeSelectedText();
+  // Runs of characters with the same offset go in at once.
+  const std::size_t to = ByteOffset(text, change.last);
+  std::size_t a = ByteOffset(text, change.first);
+  for (int k = change.first; k < change.last;) {
+    const int offset = offsets[static_cast<std::size_t>(k)];
+    int next = k + 1;
+    while (next < change.last && offsets[static_cast<std::size_t>(next)] == offset) ++next;
+    std::size_t b = a;
+    for (int i = k; i < next; ++i) b = NextCharacter(text, b);
+    QTextCharFormat format;
+    format.setVerticalAlignment(AlignmentOf(offset));
+    cursor.insertText(QString::fromUtf8(text.data() + a, static_cast<qsizetype>(std::min(b, to) - a)), format);
+    a = b;
+    k = next;
+  }
+  cursor.endEditBlock();
+}
+
+// What the document holds after only a part of a long text went in: the old
+// text's ends around the new part.
+void RichTextWidget::HoldPart(const std::string& text, const std::vector<int>& offsets, const Change& change) {
+  const std::size_t from = ByteOffset(text, change.first);
+  const std::size_t to = ByteOffset(text, change.last);
+  const std::size_t head = ByteOffset(shownUtf8_, change.first);
+  const std::size_t tail = shownUtf8_.size() - ByteOffset(shownUtf8_, change.first + change.removedCharacters);
+  shownUtf8_ = shownUtf8_.substr(0, head) + text.substr(from, to - from) + shownUtf8_.substr(shownUtf8_.size() - tail);
+  std::vector<int> held(shownOffsets_.begin(), shownOffsets_.begin() + change.first);
+  held.insert(held.end(), offsets.begin() + change.first, offsets.begin() + change.last);
+  held.insert(
+      held.end(),
+      shownOffsets_.end() - static_cast<std::ptrdiff_t>(shownOffsets_.size() - change.first - change.removedCharacters),
+      shownOffsets_.end());
+  shownOffsets_ = std::move(held);
+  shownText_ = QString::fromStdString(shownUtf8_);
+}
+
+// Sets the caret to the control's selection, in characters, and scrolls it
+// into sight.
+void RichTextWidget::ShowCaret(int selStart, int selLength) {
+  const int start = ToPosition(shownText_, selStart);
+  const int end = ToPosition(shownText_, selStart + selLength);
   QTextCursor caret = textCursor();
   if (caret.selectionStart() != start || caret.selectionEnd() != end) {
     caret.setPosition(start);
@@ -244,7 +265,6 @@ void RichTextWidget::ShowControl(const Control& c) {
   } else {
     ensureCursorVisible();
   }
-  showing_ = false;
 }
 
 std::vector<int> RichTextWidget::ShownOffsets() const {

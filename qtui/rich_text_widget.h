@@ -64,6 +64,13 @@ class RichTextWidget : public QTextEdit {
   };
   static Change Compare(std::string_view was, const std::vector<int>& wasOffsets, std::string_view now,
                         const std::vector<int>& nowOffsets);
+  // The steps of showing the control: forgetting a document the user changed,
+  // replacing the part that differs, recording a part of a long text, placing
+  // the caret.
+  void ClearShown();
+  void Replace(const std::string& text, const std::vector<int>& offsets, const Change& change);
+  void HoldPart(const std::string& text, const std::vector<int>& offsets, const Change& change);
+  void ShowCaret(int selStart, int selLength);
 
   bool showing_ = false;
   bool multiLine_ = false;
