@@ -178,6 +178,50 @@ std::string Header(const Table& table) {
   return header;
 }
 
+// The first line must name the table's columns in schema order.
+void CheckHeader(const Table& table, const std::vector<CsvField>& fields, const fs::path& file) {
+  std::string found;
+  for (const CsvField& field : fields) found += (found.empty() ? "" : ",") + field.text;
+  if (found != Header(table)) {
+    throw BuildError(Where(file, 1) + "the header must be \"" + Header(table) + "\", found \"" + found + "\"");
+  }
+}
+
+// Binds one field of line `number` to its slot of the insert, checked against
+// its column's kind. An empty unquoted field, or an empty quoted one of a
+// number column, is NULL.
+void BindField(sqlite3_stmt* insert, int slot, const Column& column, const CsvField& field, const fs::path& file,
+               std::size_t number) {
+  if (field.text.empty() && !(field.quoted && column.kind == Kind::Text)) {
+    if (column.not_null) throw BuildError(Where(file, number) + "field " + column.name + " must not be empty");
+    sqlite3_bind_null(insert, slot);
+    return;
+  }
+  switch (column.kind) {
+    case Kind::Integer: {
+      std::int64_t value = 0;
+      if (!ParseInteger(field.text, value)) {
+        throw BuildError(Where(file, number) + "field " + column.name + " must be a whole number, found \"" +
+                         field.text + "\"");
+      }
+      sqlite3_bind_int64(insert, slot, value);
+      break;
+    }
+    case Kind::Real: {
+      double value = 0;
+      if (!ParseReal(field.text, value)) {
+        throw BuildError(Where(file, number) + "field " + column.name + " must be a number, found \"" + field.text +
+                         "\"");
+      }
+      sqlite3_bind_double(insert, slot, value);
+      break;
+    }
+    case Kind::Text:
+      sqlite3_bind_text(insert, slot, field.text.c_str(), static_cast<int>(field.text.size()), SQLITE_TRANSIENT);
+      break;
+  }
+}
+
 std::size_t LoadTable(Connection& db, const Table& table, const fs::path& file) {
   std::string insert = "INSERT INTO \"" + table.name + "\" VALUES (";
   for (std::size_t c = 0; c < table.columns.size(); ++c) insert += c == 0 ? "?" : ", ?";
@@ -201,11 +245,7 @@ std::size_t LoadTable(Connection& db, const Table& table, const fs::path& file) 
     }
 
     if (number == 1) {
-      std::string found;
-      for (const CsvField& field : fields) found += (found.empty() ? "" : ",") + field.text;
-      if (found != Header(table)) {
-        throw BuildError(Where(file, number) + "the header must be \"" + Header(table) + "\", found \"" + found + "\"");
-      }
+      CheckHeader(table, fields, file);
       continue;
     }
     if (line.empty()) continue;
@@ -217,40 +257,7 @@ std::size_t LoadTable(Connection& db, const Table& table, const fs::path& file) 
     sqlite3_reset(statement.get());
     sqlite3_clear_bindings(statement.get());
     for (std::size_t c = 0; c < fields.size(); ++c) {
-      const Column& column = table.columns[c];
-      const CsvField& field = fields[c];
-      const int slot = static_cast<int>(c) + 1;
-      if (field.text.empty() && !(field.quoted && column.kind == Kind::Text)) {
-        if (column.not_null) {
-          throw BuildError(Where(file, number) + "field " + column.name + " must not be empty");
-        }
-        sqlite3_bind_null(statement.get(), slot);
-        continue;
-      }
-      switch (column.kind) {
-        case Kind::Integer: {
-          std::int64_t value = 0;
-          if (!ParseInteger(field.text, value)) {
-            throw BuildError(Where(file, number) + "field " + column.name + " must be a whole number, found \"" +
-                             field.text + "\"");
-          }
-          sqlite3_bind_int64(statement.get(), slot, value);
-          break;
-        }
-        case Kind::Real: {
-          double value = 0;
-          if (!ParseReal(field.text, value)) {
-            throw BuildError(Where(file, number) + "field " + column.name + " must be a number, found \"" + field.text +
-                             "\"");
-          }
-          sqlite3_bind_double(statement.get(), slot, value);
-          break;
-        }
-        case Kind::Text:
-          sqlite3_bind_text(statement.get(), slot, field.text.c_str(), static_cast<int>(field.text.size()),
-                            SQLITE_TRANSIENT);
-          break;
-      }
+      BindField(statement.get(), static_cast<int>(c) + 1, table.columns[c], fields[c], file, number);
     }
     if (sqlite3_step(statement.get()) != SQLITE_DONE) {
       throw BuildError(Where(file, number) + sqlite3_errmsg(db.get()));
