@@ -126,37 +126,44 @@ void frmTitration::opt2_Click() {
   ctl("Label6").SetCaption("The molality of the acid is ");
 }
 
+// Three of the four data boxes filled, none of them zero, and a ratio above
+// zero; otherwise says what is wrong and returns false.
+bool frmTitration::EntriesFit() {
+  int empty = 0;
+  bool zero = false;
+  for (const char* name : {"Text1", "Text2", "Text3", "Text4"}) {
+    const Control& box = ctl(name);
+    if (IsBlank(box)) ++empty;
+    if (box.Text() == "0") zero = true;
+  }
+  if (empty == 4) {
+    MsgBox("Enter data into all but 1 of the data boxes.", Icon::Information, kTitle);
+    return false;
+  }
+  if (empty == 0) {
+    MsgBox("You must leave 1 of the data boxes empty.", Icon::Information, kTitle);
+    return false;
+  }
+  if (zero) {
+    MsgBox("You must enter non-zero numbers. ", Icon::Information, kTitle);
+    return false;
+  }
+  // The ratio is converted before it is tested: an empty box fails here.
+  const Double ratio = CDbl(ctl("Text6").Text());
+  if (ratio <= 0) {
+    MsgBox("Enter a valid number for the ratio.", Icon::Information, kTitle);
+    return false;
+  }
+  return true;
+}
+
 void frmTitration::cmdOk_Click() {
   Trapped(kTrapDataEntryCapsPoint, [&] {
+    if (!EntriesFit()) return;
     Control& acidM = ctl("Text1");
     Control& acidV = ctl("Text2");
     Control& baseM = ctl("Text3");
     Control& baseV = ctl("Text4");
-    const Control* boxes[] = {&acidM, &acidV, &baseM, &baseV};
-    int empty = 0;
-    bool zero = false;
-    for (const Control* box : boxes) {
-      if (IsBlank(*box)) ++empty;
-      if (box->Text() == "0") zero = true;
-    }
-    if (empty == 4) {
-      MsgBox("Enter data into all but 1 of the data boxes.", Icon::Information, kTitle);
-      return;
-    }
-    if (empty == 0) {
-      MsgBox("You must leave 1 of the data boxes empty.", Icon::Information, kTitle);
-      return;
-    }
-    if (zero) {
-      MsgBox("You must enter non-zero numbers. ", Icon::Information, kTitle);
-      return;
-    }
-    // The ratio is converted before it is tested: an empty box fails here.
-    const Double ratio = CDbl(ctl("Text6").Text());
-    if (ratio <= 0) {
-      MsgBox("Enter a valid number for the ratio.", Icon::Information, kTitle);
-      return;
-    }
     Single Ma = 0;
     Single Va = 0;
     Single Mb = 0;

@@ -18,6 +18,7 @@ class frmTitration : public CalculatorScreen {
   void opt2_Click();
 
   void ResetScreen();
+  bool EntriesFit();
 };
 
 }  // namespace orv
