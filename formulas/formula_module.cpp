@@ -46,6 +46,22 @@ int DigitsBehind(std::string_view s, int position) {
   return -1;
 }
 
+// Cuts the leading coefficient, one or two digits, off the molecule and
+// returns it; 1 when there is none.
+Integer CutCoefficient(std::string& molecule) {
+  const std::string first = CharAt(molecule, 1);
+  const std::string second = CharAt(molecule, 2);
+  if (IsDigit(first) && IsDigit(second)) {
+    molecule = Mid(molecule, 3);
+    return Expr(10 * DigitValue(first) + DigitValue(second));
+  }
+  if (IsDigit(first)) {
+    molecule = Mid(molecule, 2);
+    return Expr(DigitValue(first));
+  }
+  return Expr(1);
+}
+
 // A symbol starts at a position: the character and, when the next one is a
 // small letter, that one too.
 std::string SymbolAt(std::string_view s, int position) {
@@ -95,20 +111,7 @@ void FormulaModule::ScanWeights(MessageService& messages, data::DataStore& store
   while (i <= Len(FormulaText)) {
     const std::string c = CharAt(FormulaText, i);
     if (IsDigit(c)) {
-      // A subscript multiplies the last item only; of three digits in a row
-      // the pairs overlap.
-      const std::string next = CharAt(FormulaText, i + 1);
-      int value = -1;
-      if (IsDigit(next)) {
-        value = 10 * DigitValue(c) + DigitValue(next);
-      } else if (!IsDigit(CharAt(FormulaText, i - 1))) {
-        value = DigitValue(c);
-      }
-      if (value >= 0) {
-        PopWeight();
-        PushValue = Double(CDbl(PopValue) * value).value();
-        PushWeight();
-      }
+      ApplySubscript(i);
     } else if (c == ".") {
       // Everything behind the point is water; only its count is read.
       const std::string first = CharAt(FormulaText, i + 1);
@@ -124,25 +127,7 @@ void FormulaModule::ScanWeights(MessageService& messages, data::DataStore& store
       PushWeight();
       i = L;
     } else if (c == "(") {
-      // A group is looked up whole, by the first pair of brackets of the
-      // formula, wherever this one stands.
-      const int open = InStr(FormulaText, "(");
-      const int close = InStr(FormulaText, ")");
-      const int length = close - open - 1;
-      if (length < 0) Raise(ErrorCode::InvalidProcedureCall);
-      const std::string group = Mid(FormulaText, i + 1, length);
-      const std::string first = CharAt(FormulaText, close + 1);
-      const std::string second = CharAt(FormulaText, close + 2);
-      const int multiplier = IsDigit(first) ? DigitValue(first) : 1;
-      Single weight;
-      Weight(group, weight);
-      PushValue = static_cast<double>(Single(weight * multiplier).value());
-      PushWeight();
-      if (IsDigit(first) && IsDigit(second)) {
-        i = close + 2;
-      } else if (IsDigit(first)) {
-        i = close + 1;
-      }
+      i = PushGroup(i, Weight);
     } else if (c.size() == 1 && c[0] >= 'A' && c[0] <= 'Z') {
       PushValue = AtomicWeightOf(messages, store, SymbolAt(FormulaText, i)).value();
       PushWeight();
@@ -151,6 +136,45 @@ void FormulaModule::ScanWeights(MessageService& messages, data::DataStore& store
     ++i;
   }
   SumWeights();
+}
+
+// The digit at position i: a subscript multiplies the last item only; of
+// three digits in a row the pairs overlap.
+void FormulaModule::ApplySubscript(int i) {
+  const std::string next = CharAt(FormulaText, i + 1);
+  int value = -1;
+  if (IsDigit(next)) {
+    value = 10 * DigitValue(CharAt(FormulaText, i)) + DigitValue(next);
+  } else if (!IsDigit(CharAt(FormulaText, i - 1))) {
+    value = DigitValue(CharAt(FormulaText, i));
+  }
+  if (value >= 0) {
+    PopWeight();
+    PushValue = Double(CDbl(PopValue) * value).value();
+    PushWeight();
+  }
+}
+
+// The bracket at position i: a group is looked up whole, by the first pair of
+// brackets of the formula, wherever this one stands. Returns the position the
+// walk goes on from: behind the group's multiplier, or still at the bracket
+// when it has none.
+int FormulaModule::PushGroup(int i, const GroupWeight& Weight) {
+  const int open = InStr(FormulaText, "(");
+  const int close = InStr(FormulaText, ")");
+  const int length = close - open - 1;
+  if (length < 0) Raise(ErrorCode::InvalidProcedureCall);
+  const std::string group = Mid(FormulaText, i + 1, length);
+  const std::string first = CharAt(FormulaText, close + 1);
+  const std::string second = CharAt(FormulaText, close + 2);
+  const int multiplier = IsDigit(first) ? DigitValue(first) : 1;
+  Single weight;
+  Weight(group, weight);
+  PushValue = static_cast<double>(Single(weight * multiplier).value());
+  PushWeight();
+  if (IsDigit(first) && IsDigit(second)) return close + 2;
+  if (IsDigit(first)) return close + 1;
+  return i;
 }
 
 // --- the atom counter ---
@@ -216,18 +240,8 @@ void FormulaModule::CountAtoms(MessageService& messages, const std::string& Mole
       bool inHydrate = false;
       count = Expr(0);
 
-      // The leading coefficient, one or two digits, is cut off.
       std::string molecule = StripSeparators(Molecule);
-      Integer coefficient = Expr(1);
-      const std::string first = CharAt(molecule, 1);
-      const std::string second = CharAt(molecule, 2);
-      if (IsDigit(first) && IsDigit(second)) {
-        coefficient = Expr(10 * DigitValue(first) + DigitValue(second));
-        molecule = Mid(molecule, 3);
-      } else if (IsDigit(first)) {
-        coefficient = Expr(DigitValue(first));
-        molecule = Mid(molecule, 2);
-      }
+      const Integer coefficient = CutCoefficient(molecule);
 
       // A one-letter symbol also matches the first letter of a two-letter one.
       const std::string symbol = SideSymbol(k);

@@ -66,6 +66,9 @@ struct FormulaModule {
   // waters, which a point sets. Run-time errors go to the caller.
   void ScanWeights(MessageService& messages, data::DataStore& store, int L, std::string& HydrateCount,
                    const GroupWeight& Weight);
+  // Its steps at a digit and at an opening bracket of FormulaText (from 1).
+  void ApplySubscript(int i);
+  int PushGroup(int i, const GroupWeight& Weight);
 
   // The atom counter: fills SideAtoms and SideCounts for one side of an
   // equation (own error trap). The routines with their own trap show the
