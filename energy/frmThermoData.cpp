@@ -86,26 +86,29 @@ frmThermoData::frmThermoData(Program& program)
   EnterRunsOk("Text5");
 }
 
+// The prompts of the five labels beside the boxes, top to bottom.
+void frmThermoData::SetCaptions(std::string_view first, std::string_view second, std::string_view third,
+                                std::string_view result, std::string_view link) {
+  ctl("Label1").SetCaption(std::string(first));
+  ctl("Label2").SetCaption(std::string(second));
+  ctl("Label3").SetCaption(std::string(third));
+  ctl("Label4").SetCaption(std::string(result));
+  ctl("Label5").SetCaption(std::string(link));
+}
+
 // The short prompts set here give way at once to those of the enthalpy mode,
 // whose routine runs when it is selected.
 void frmThermoData::Form_Load() {
   EmptyBoxes(kBoxes);
-  ctl("Label1").SetCaption("Enter the enthalpy value for the reactant.");
-  ctl("Label2").SetCaption("Enter the enthalpy value for the product.");
-  ctl("Label3").SetCaption(std::string(kRatio));
-  ctl("Label4").SetCaption(std::string(kEnthalpyChange));
-  ctl("Label5").SetCaption(" to ");
+  SetCaptions("Enter the enthalpy value for the reactant.", "Enter the enthalpy value for the product.", kRatio,
+              kEnthalpyChange, " to ");
   ctl("Text5").SetVisible(true);
   ctl("opt1").SetValue(true);
   DisableOkAndPrint();
 }
 
 void frmThermoData::opt1_Click() {
-  ctl("Label1").SetCaption(std::string(kReactant));
-  ctl("Label2").SetCaption(std::string(kProduct));
-  ctl("Label3").SetCaption(std::string(kRatio));
-  ctl("Label4").SetCaption(std::string(kEnthalpyChange));
-  ctl("Label5").SetCaption(" to ");
+  SetCaptions(kReactant, kProduct, kRatio, kEnthalpyChange, " to ");
   ctl("Label6").SetCaption("kJ");
   ctl("Text3").SetVisible(true);
   Form::EmptyBoxes({"Text3", "Text4"});
@@ -115,22 +118,14 @@ void frmThermoData::opt1_Click() {
 
 // The coefficient boxes are hidden with their texts kept.
 void frmThermoData::opt2_Click() {
-  ctl("Label1").SetCaption(std::string(kProducts));
-  ctl("Label2").SetCaption(std::string(kReactants));
-  ctl("Label3").SetCaption("");
-  ctl("Label4").SetCaption(std::string(kOverall));
-  ctl("Label5").SetCaption("");
+  SetCaptions(kProducts, kReactants, "", kOverall, "");
   ctl("Text3").SetVisible(false);
   ctl("Text4").SetText("");
   ctl("Text5").SetVisible(false);
 }
 
 void frmThermoData::opt3_Click() {
-  ctl("Label1").SetCaption(std::string(kReactionEnthalpy));
-  ctl("Label2").SetCaption(std::string(kTemperature));
-  ctl("Label3").SetCaption(std::string(kReactionEntropy));
-  ctl("Label4").SetCaption(std::string(kFreeEnergy));
-  ctl("Label5").SetCaption("");
+  SetCaptions(kReactionEnthalpy, kTemperature, kReactionEntropy, kFreeEnergy, "");
   ctl("Text3").SetVisible(true);
   ctl("Text4").SetText("");
   ctl("Text5").SetVisible(false);
@@ -189,33 +184,21 @@ void frmThermoData::cmdOk_Click() {
 // written here stay until the mode changes.
 void frmThermoData::cmdClear_Click() {
   if (ctl("opt1").Value()) {
-    ctl("Label1").SetCaption(std::string(kReactant));
-    ctl("Label2").SetCaption("Enter the enthalpy value for the product kJ.");
-    ctl("Label3").SetCaption(std::string(kRatio));
-    ctl("Label4").SetCaption(std::string(kEnthalpyChange));
-    ctl("Label5").SetCaption(" To ");
+    SetCaptions(kReactant, "Enter the enthalpy value for the product kJ.", kRatio, kEnthalpyChange, " To ");
     ctl("Label6").SetCaption("kJ");
     EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text5").SetVisible(true);
     ctl("opt1").SetValue(true);
   } else if (ctl("opt2").Value()) {
-    ctl("Label1").SetCaption(std::string(kProducts));
-    ctl("Label2").SetCaption(std::string(kReactants));
-    ctl("Label3").SetCaption("");
-    ctl("Label4").SetCaption(std::string(kOverall));
-    ctl("Label5").SetCaption("");
+    SetCaptions(kProducts, kReactants, "", kOverall, "");
     EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text3").SetVisible(false);
     ctl("Text5").SetVisible(false);
     ctl("opt2").SetValue(true);
   } else if (ctl("opt3").Value()) {
-    ctl("Label1").SetCaption(std::string(kReactionEnthalpy));
-    ctl("Label2").SetCaption(std::string(kTemperature));
-    ctl("Label3").SetCaption(std::string(kReactionEntropy));
-    ctl("Label4").SetCaption(std::string(kFreeEnergy));
-    ctl("Label5").SetCaption("");
+    SetCaptions(kReactionEnthalpy, kTemperature, kReactionEntropy, kFreeEnergy, "");
     EmptyBoxes(kBoxes);
     ctl("Text6").SetText("");
     ctl("Text3").SetVisible(true);

@@ -17,6 +17,9 @@ class frmThermoData : public CalculatorScreen {
   void opt1_Click();
   void opt2_Click();
   void opt3_Click();
+
+  void SetCaptions(std::string_view first, std::string_view second, std::string_view third, std::string_view result,
+                   std::string_view link);
 };
 
 }  // namespace orv

@@ -72,25 +72,26 @@ void frmMassVolume::HideExtraBoxes() {
   for (const char* name : {"Text6", "Label6", "Text7", "Label7"}) ctl(name).SetVisible(false);
 }
 
-void frmMassVolume::Form_Load() {
-  ctl("opt1").SetValue(true);
-  EmptyBoxes(kBoxes);
-  ctl("Label1").SetCaption("Enter the mass of the reactant in grams.");
+// The prompts of the volume mode; only the mass prompt's wording varies.
+void frmMassVolume::SetVolumeCaptions(std::string_view massPrompt) {
+  ctl("Label1").SetCaption(std::string(massPrompt));
   ctl("Label2").SetCaption(std::string(kWeightPrompt));
   ctl("Label3").SetCaption("Enter the ratio of product to reactant.");
   ctl("Label4").SetCaption("The volume of the gas is ");
   ctl("Label8").SetCaption("Liters");
+}
+
+void frmMassVolume::Form_Load() {
+  ctl("opt1").SetValue(true);
+  EmptyBoxes(kBoxes);
+  SetVolumeCaptions("Enter the mass of the reactant in grams.");
   HideExtraBoxes();
   DisableOkAndPrint();
 }
 
 // The volume mode hides the two extra boxes with whatever they hold.
 void frmMassVolume::opt1_Click() {
-  ctl("Label1").SetCaption("Enter the mass of the reactant in grams.");
-  ctl("Label2").SetCaption(std::string(kWeightPrompt));
-  ctl("Label3").SetCaption("Enter the ratio of product to reactant.");
-  ctl("Label4").SetCaption("The volume of the gas is ");
-  ctl("Label8").SetCaption("Liters");
+  SetVolumeCaptions("Enter the mass of the reactant in grams.");
   HideExtraBoxes();
   EmptyBoxes({"Text1", "Text2", "Text3", "Text4", "Text5", "Text8"});
 }
@@ -149,11 +150,7 @@ void frmMassVolume::cmdOk_Click() {
 void frmMassVolume::cmdClear_Click() {
   ctl("opt1").SetValue(true);
   EmptyBoxes(kBoxes);
-  ctl("Label1").SetCaption("Enter the mass of the reactant.");
-  ctl("Label2").SetCaption(std::string(kWeightPrompt));
-  ctl("Label3").SetCaption("Enter the ratio of product to reactant.");
-  ctl("Label4").SetCaption("The volume of the gas is ");
-  ctl("Label8").SetCaption("Liters");
+  SetVolumeCaptions("Enter the mass of the reactant.");
   HideExtraBoxes();
   ctl("Text1").SetFocus();
 }

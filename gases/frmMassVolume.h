@@ -18,6 +18,7 @@ class frmMassVolume : public CalculatorScreen {
   void opt2_Click();
 
   void HideExtraBoxes();
+  void SetVolumeCaptions(std::string_view massPrompt);
 };
 
 }  // namespace orv
