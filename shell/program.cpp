@@ -286,22 +286,24 @@ Control* Program::MenuShortcut(Form& form, const Key& key) {
 bool Program::UserKey(Form& form, Control* focus, const Key& key) {
   bool taken = false;
   Outermost o(*this);
-  o.Run([&] { taken = RouteKey(form, focus, key); });
+  o.Run([&] { RouteKey(form, focus, key, taken); });
   return taken;
 }
 
 // One key's way through a screen, in the order the steps must run: the menu's
 // shortcuts, the screen's KeyDown, the window's own keys, the control's
 // KeyDown, then the character and the KeyUp. Any routine on the way may unload
-// or hide the screen, which ends the key's way there.
-bool Program::RouteKey(Form& form, Control* focus, const Key& key) {
-  if (!form.Loaded() || !form.Visible()) return false;
+// or hide the screen, which ends the key's way there, or end the program,
+// which leaves `taken` as it stood at that moment.
+void Program::RouteKey(Form& form, Control* focus, const Key& key, bool& taken) {
+  if (!form.Loaded() || !form.Visible()) return;
   if (focus != nullptr && !focus->TakesInput()) focus = nullptr;
 
   // A menu entry's shortcut goes to the menu before the screen sees the key.
   if (Control* entry = MenuShortcut(form, key)) {
+    taken = true;
     if (entry->TakesInput()) form.Fire(entry, Ev::Click);
-    return true;
+    return;
   }
 
   // The screen sees every key first.
@@ -309,22 +311,23 @@ bool Program::RouteKey(Form& form, Control* focus, const Key& key) {
   down.keyCode = key.code;
   down.shift = key.shift;
   form.FireForm(Ev::KeyDown, down);
-  if (!form.Loaded() || !form.Visible()) return true;
-  if (WindowKey(form, focus, key)) return true;
+  taken = true;
+  if (!form.Loaded() || !form.Visible()) return;
+  if (WindowKey(form, focus, key)) return;
 
   const bool onButton = focus != nullptr && focus->kind() == Kind::Button;
   if (focus != nullptr) {
     down.keyCode = key.code;
     form.Fire(focus, Ev::KeyDown, down);
-    if (!form.Loaded() || !form.Visible()) return true;
+    if (!form.Loaded() || !form.Visible()) return;
     if (!focus->TakesInput()) focus = nullptr;
   }
   // The arrow keys move from a command button to the nearest one that way.
   if (onButton && focus != nullptr && IsArrowKey(key.code) && key.shift == 0) {
     if (Control* next = ButtonToward(*focus, key.code)) next->SetFocus();
-    return true;
+    return;
   }
-  return FinishKey(form, focus, key);
+  FinishKey(form, focus, key, taken);
 }
 
 // The keys the window handles before the control in focus sees them: Enter
@@ -353,16 +356,16 @@ bool Program::WindowKey(Form& form, Control* focus, const Key& key) {
 }
 
 // The end of a key's way: its character (or its editing keys in a box), Enter
-// on a tree, and the KeyUp. True when the runtime took the key; outside a box
-// the toolkit moves in lists and presses buttons itself.
-bool Program::FinishKey(Form& form, Control* focus, const Key& key) {
+// on a tree, and the KeyUp. Outside a box the key is left to the toolkit,
+// which moves in lists and presses buttons itself.
+void Program::FinishKey(Form& form, Control* focus, const Key& key, bool& taken) {
   const bool box = focus != nullptr && (focus->kind() == Kind::TextBox || focus->kind() == Kind::RichText);
   if (key.ascii != 0) {
-    if (!PressChar(form, focus, key.ascii, box)) return true;
+    if (!PressChar(form, focus, key.ascii, box)) return;
   } else if (box) {
     EditBox(*focus, key);
   }
-  bool taken = box;
+  taken = box;
   // Enter on a tree's selected node opens it as a double click does.
   if (key.code == kKeyReturn && focus != nullptr && focus->kind() == Kind::Tree && form.Loaded() &&
       focus->TakesInput() && focus->tree().SelectedItem() != nullptr) {
@@ -375,7 +378,6 @@ bool Program::FinishKey(Form& form, Control* focus, const Key& key) {
     up.shift = key.shift;
     form.Fire(focus, Ev::KeyUp, up);
   }
-  return taken;
 }
 
 // A key's character: the screen's KeyPress, the control's KeyPress and its

@@ -146,9 +146,9 @@ class Program {
   class Outermost;
   void Flush();
   void CloseAll();
-  bool RouteKey(Form& form, Control* focus, const Key& key);
+  void RouteKey(Form& form, Control* focus, const Key& key, bool& taken);
   bool WindowKey(Form& form, Control* focus, const Key& key);
-  bool FinishKey(Form& form, Control* focus, const Key& key);
+  void FinishKey(Form& form, Control* focus, const Key& key, bool& taken);
   bool PressChar(Form& form, Control* focus, int ascii, bool box);
   bool EditBox(Control& box, const Key& key);
   void TypeChar(Control& box, int ascii);
