@@ -17,14 +17,16 @@ namespace orv::test {
 
 class QtRun {
  public:
-  explicit QtRun(const ScreenRegistry& screens = AllScreens(), const std::string& folder = ORVANTA_BIN_DIR)
+  // Every screen, with the start-up's events handled.
+  QtRun() : QtRun(AllScreens(), ORVANTA_BIN_DIR) { Settle(); }
+  // A test's own screens, with the start-up's events left for the test.
+  QtRun(const ScreenRegistry& screens, const std::string& folder)
       : owned_(std::make_unique<Program>(
             screens, Program::Services{&fakes.messages, &fakes.printer, &fakes.launcher, &view, &fakes.clipboard},
             folder)) {
     view.SetProgram(&program);
     view.onEnded = [] {};
     program.Start();
-    Settle();
   }
   ~QtRun() {
     owned_.reset();
