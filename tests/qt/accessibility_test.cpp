@@ -8,46 +8,20 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QImage>
-#include <QMessageBox>
 #include <QRadioButton>
-#include <QTimer>
 #include <string>
 #include <vector>
 
-#include "app/registry.h"
 #include "qtui/qt_program.h"
 #include "qtui/qt_view.h"
 #include "shell/accessible.h"
 #include "shell/chart.h"
+#include "tests/qt/qt_run.h"
 
 namespace orv::qt {
 namespace {
 
-// The program through the real widgets; message boxes close by themselves.
-struct QtRun {
-  QtRun() {
-    orvanta.messages.hook = [](QMessageBox& box) {
-      QTimer::singleShot(0, &box, [&box] { box.done(QMessageBox::Ok); });
-    };
-    orvanta.view.onEnded = [] {};
-    orvanta.program.Start();
-    QCoreApplication::processEvents();
-  }
-  ~QtRun() {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-  }
-  Form* Show(const std::string& name) {
-    orvanta.program.UserAction([&] { orvanta.program.Show(name); });
-    QCoreApplication::processEvents();
-    return orvanta.program.Find(name);
-  }
-  void Unload(const std::string& name) {
-    orvanta.program.UserAction([&] { orvanta.program.Unload(name); });
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-  QtProgram orvanta{AllScreens()};
-};
+using test::QtRun;
 
 bool NeedsName(QAccessible::Role role) {
   switch (role) {
@@ -96,12 +70,10 @@ TEST(QtAccessibility, EveryScreenIsNamedAndHasTheRightRoles) {
   QtRun run;
   Findings all;
   int screens = 0;
-  std::vector<std::string> names;
-  for (const auto& [name, factory] : AllScreens().screens) names.push_back(name);
-  for (const std::string& name : names) {
+  for (const std::string& name : test::ScreenNames()) {
     Form* form = run.Show(name);
     ASSERT_NE(form, nullptr) << name;
-    QWidget* window = run.orvanta.view.Window(*form);
+    QWidget* window = run.view.Window(*form);
     ASSERT_NE(window, nullptr) << name;
     QAccessibleInterface* top = QAccessible::queryAccessibleInterface(window);
     ASSERT_NE(top, nullptr) << name;
@@ -122,19 +94,18 @@ TEST(QtAccessibility, BoxesAreLabelledByTheirPromptsAndFollowThem) {
   QtRun run;
   Form* form = run.Show("frmCharlesLaw");
   ASSERT_NE(form, nullptr);
-  QAccessibleInterface* box =
-      QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(form->ctl("txtFinalEntry")));
+  QAccessibleInterface* box = QAccessible::queryAccessibleInterface(run.view.Widget(form->ctl("txtFinalEntry")));
   ASSERT_NE(box, nullptr);
   const auto labels = box->relations(QAccessible::Label);
   ASSERT_EQ(labels.size(), 1);
-  EXPECT_EQ(labels.first().first->object(), run.orvanta.view.Widget(form->ctl("Label3")));
+  EXPECT_EQ(labels.first().first->object(), run.view.Widget(form->ctl("Label3")));
   // The second option rewrites the prompt; the name follows it.
-  run.orvanta.program.UserClick(form->ctl("opt2"));
+  run.program.UserClick(form->ctl("opt2"));
   EXPECT_EQ(box->text(QAccessible::Name).toStdString(), form->ctl("Label3").Caption());
   // The working line has no label of its own.
-  QAccessibleInterface* line = QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(form->ctl("Text1")));
+  QAccessibleInterface* line = QAccessible::queryAccessibleInterface(run.view.Widget(form->ctl("Text1")));
   EXPECT_EQ(line->text(QAccessible::Name).toStdString(), "Calculation");
-  QAccessibleInterface* option = QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(form->ctl("opt2")));
+  QAccessibleInterface* option = QAccessible::queryAccessibleInterface(run.view.Widget(form->ctl("opt2")));
   EXPECT_EQ(option->role(), QAccessible::RadioButton);
   EXPECT_EQ(option->text(QAccessible::Name).toStdString(), "Find final volume");
   EXPECT_TRUE(option->state().checked);
@@ -144,9 +115,8 @@ TEST(QtAccessibility, PicturesAndChartsSayWhatTheyShow) {
   QtRun run;
   Form* atoms = run.Show("frmBuildAtoms");
   ASSERT_NE(atoms, nullptr);
-  run.orvanta.program.UserClick(atoms->ctl("cmdProton"));
-  QAccessibleInterface* picture =
-      QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(atoms->ctl("Picture1")));
+  run.program.UserClick(atoms->ctl("cmdProton"));
+  QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(run.view.Widget(atoms->ctl("Picture1")));
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->role(), QAccessible::Graphic);
   EXPECT_EQ(picture->text(QAccessible::Name).toStdString(), "Atom");
@@ -155,7 +125,7 @@ TEST(QtAccessibility, PicturesAndChartsSayWhatTheyShow) {
 
   Form* chart = run.Show("frmPTable2");
   ASSERT_NE(chart, nullptr);
-  QAccessibleInterface* graph = QAccessible::queryAccessibleInterface(run.orvanta.view.Widget(chart->ctl("MSChart1")));
+  QAccessibleInterface* graph = QAccessible::queryAccessibleInterface(run.view.Widget(chart->ctl("MSChart1")));
   ASSERT_NE(graph, nullptr);
   EXPECT_EQ(graph->role(), QAccessible::Chart);
   EXPECT_FALSE(chart->ctl("MSChart1").chart().content().title.empty());
@@ -163,7 +133,7 @@ TEST(QtAccessibility, PicturesAndChartsSayWhatTheyShow) {
 
   Form* periodic = run.Show("frmPeriodic");
   ASSERT_NE(periodic, nullptr);
-  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(run.orvanta.view.Window(*periodic));
+  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(run.view.Window(*periodic));
   EXPECT_EQ(window->text(QAccessible::Name).toStdString(), "Orvanta");
 }
 
@@ -174,19 +144,19 @@ TEST(QtAccessibility, TheFocusedButtonIsMarked) {
   QtRun run;
   Form* form = run.Show("frmCharlesLaw");
   ASSERT_NE(form, nullptr);
-  QWidget* window = run.orvanta.view.Window(*form);
+  QWidget* window = run.view.Window(*form);
   window->activateWindow();
   QApplication::setActiveWindow(window);
   auto grabWithFocus = [&](const char* name) {
-    run.orvanta.program.UserFocus(form->ctl(name));
+    run.program.UserFocus(form->ctl(name));
     QCoreApplication::processEvents();
-    return GrabForm(run.orvanta.view, *form);
+    return GrabForm(run.view, *form);
   };
   const QImage onClear = grabWithFocus("cmdClear");
   const QImage onCancel = grabWithFocus("cmdCancel");
   ASSERT_FALSE(onClear.isNull());
   EXPECT_NE(onClear, onCancel);
-  QWidget* cancel = run.orvanta.view.Widget(form->ctl("cmdCancel"));
+  QWidget* cancel = run.view.Widget(form->ctl("cmdCancel"));
   const QPoint corner = cancel->mapTo(window, QPoint(0, cancel->height() / 2)) - QPoint(1, 0);
   const qreal ratio = onCancel.devicePixelRatio();
   const QColor ring = onCancel.pixelColor((QPointF(corner) * ratio).toPoint());

@@ -17,7 +17,6 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTest>
-#include <memory>
 #include <set>
 #include <string>
 #include <vector>
@@ -32,28 +31,10 @@
 #include "shell/picture.h"
 #include "shell/screen_frame.h"
 #include "shell/tree.h"
+#include "tests/qt/qt_run.h"
 
 namespace orv::qt {
 namespace {
-
-class NoMessages : public MessageService {
- public:
-  void Show(std::string_view, Icon, std::string_view) override {}
-  void ShowFatal(std::string_view) override {}
-};
-class NoPrinter : public PrintService {
- public:
-  void PrintImage(Form&) override {}
-};
-class NoLauncher : public LaunchService {
- public:
-  void LaunchCalculator() override {}
-};
-class NoClipboard : public ClipboardService {
- public:
-  std::string Text() const override { return {}; }
-  void SetText(std::string_view) override {}
-};
 
 constexpr ControlSpec kControls[] = {
     {Kind::Menu, "mnuFile", "&File"},
@@ -96,19 +77,6 @@ const ScreenRegistry& Registry() {
 
 class QtViewTest : public ::testing::Test {
  protected:
-  QtViewTest() {
-    program_ = std::make_unique<Program>(
-        Registry(), Program::Services{&messages_, &printer_, &launcher_, &view_, &clipboard_}, "/nonexistent");
-    view_.SetProgram(program_.get());
-    view_.onEnded = [] {};
-    program_->Start();
-    form_ = program_->Find("frmAll");
-  }
-  ~QtViewTest() override {
-    program_.reset();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  }
-
   Control& C(const char* name) { return form_->ctl(name); }
   template <class W>
   W* Shown(const char* name) {
@@ -116,13 +84,9 @@ class QtViewTest : public ::testing::Test {
   }
   QAction* Action(const char* name) { return view_.Window(*form_)->findChild<QAction*>(QString::fromLatin1(name)); }
 
-  NoMessages messages_;
-  NoPrinter printer_;
-  NoLauncher launcher_;
-  NoClipboard clipboard_;
-  QtView view_;
-  std::unique_ptr<Program> program_;
-  Form* form_ = nullptr;
+  test::QtRun run_{Registry(), "/nonexistent"};
+  qt::QtView& view_ = run_.view;
+  Form* form_ = run_.program.Find("frmAll");
 };
 
 TEST_F(QtViewTest, EveryKindIsShownByTheWidgetOfItsAdapter) {

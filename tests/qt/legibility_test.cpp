@@ -30,71 +30,13 @@
 #include "qtui/theme.h"
 #include "shell/look.h"
 #include "shell/program.h"
+#include "tests/qt/qt_run.h"
 
 namespace orv::qt {
 namespace {
 
-class QuietMessages : public MessageService {
- public:
-  void Show(std::string_view, Icon, std::string_view) override {}
-  void ShowFatal(std::string_view) override {}
-};
-class NoPrinter : public PrintService {
- public:
-  void PrintImage(Form&) override {}
-};
-class NoLauncher : public LaunchService {
- public:
-  void LaunchCalculator() override {}
-};
-class NoClipboard : public ClipboardService {
- public:
-  std::string Text() const override { return {}; }
-  void SetText(std::string_view) override {}
-};
-
-// One run of the program through the Qt view, with services that ask nothing.
-class QtRun {
- public:
-  QtRun() {
-    program_ = std::make_unique<Program>(
-        AllScreens(), Program::Services{&messages_, &printer_, &launcher_, &view_, &clipboard_}, ORVANTA_BIN_DIR);
-    view_.SetProgram(program_.get());
-    view_.onEnded = [] {};
-    program_->Start();
-    QApplication::processEvents();
-  }
-  ~QtRun() {
-    program_.reset();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QApplication::processEvents();
-  }
-  QtRun(const QtRun&) = delete;
-  QtRun& operator=(const QtRun&) = delete;
-
-  // Shows a screen as a route would; the screen, when it is loaded after.
-  Form* Show(const std::string& name) {
-    program_->UserAction([&] { program_->Show(name); });
-    QApplication::processEvents();
-    return program_->Ended() ? nullptr : program_->Find(name);
-  }
-  QWidget* Widget(const Control& c) const { return view_.Widget(c); }
-  QWidget* Window(const Form& f) const { return view_.Window(f); }
-
- private:
-  QtView view_;
-  QuietMessages messages_;
-  NoPrinter printer_;
-  NoLauncher launcher_;
-  NoClipboard clipboard_;
-  std::unique_ptr<Program> program_;
-};
-
-std::vector<std::string> ScreenNames() {
-  std::vector<std::string> names;
-  for (const auto& [name, factory] : AllScreens().screens) names.push_back(name);
-  return names;
-}
+using test::QtRun;
+using test::ScreenNames;
 
 // The desktop's palette for a test, put back afterwards.
 class WithPalette {

@@ -13,40 +13,13 @@
 #include <string>
 #include <vector>
 
-#include "app/registry.h"
 #include "qtui/chart_widget.h"
 #include "qtui/header_label.h"
 #include "qtui/qt_view.h"
-#include "tests/support/fake_services.h"
+#include "tests/qt/qt_run.h"
 
 namespace orv::test {
 namespace {
-
-// The program on the database beside the test executables, shown through Qt.
-struct QtRun {
-  QtRun() : program(AllScreens(), {&messages, &printer, &launcher, &view, &clipboard}, ORVANTA_BIN_DIR) {
-    view.onEnded = [] {};
-    view.SetProgram(&program);
-    program.Start();
-    Settle();
-  }
-  static void Settle() {
-    for (int i = 0; i < 3; ++i) QApplication::processEvents();
-  }
-  Form& Show(const std::string& screen) {
-    program.UserAction([&] { program.Show(screen); });
-    Settle();
-    return *program.Find(screen);
-  }
-  QWidget* W(Form& form, const std::string& control) { return view.Widget(form.ctl(control)); }
-
-  qt::QtView view;
-  FakeMessages messages;
-  FakePrinter printer;
-  FakeLauncher launcher;
-  FakeClipboard clipboard;
-  Program program;
-};
 
 // The splash is shown above the main screen, but a screen opened while it is
 // up comes in front of it.
@@ -81,7 +54,7 @@ bool ShowsWholeText(QWidget* w) {
 
 TEST(MultiLineBox, WorkingLineOfSixIsotopesIsShownWhole) {
   QtRun run;
-  Form& form = run.Show("frmAverageMass");
+  Form& form = *run.Show("frmAverageMass");
   const char* inputs[] = {"Text1", "Text2", "Text3",  "Text4",  "Text5",  "Text6",
                           "Text8", "Text9", "Text10", "Text11", "Text12", "Text13"};
   const char* values[] = {"123456.7", "0.1234567", "234567.8", "0.2345678", "345678.9", "0.3456789",
@@ -104,7 +77,7 @@ TEST(TrendChart, LabelsEveryCategoryLegibly) {
   QtRun run;
   for (const char* screen : {"frmPTable2", "frmPTable3", "frmPTable7"}) {
     SCOPED_TRACE(screen);
-    Form& form = run.Show(screen);
+    Form& form = *run.Show(screen);
     auto* chart = qobject_cast<qt::ChartWidget*>(run.W(form, "MSChart1"));
     ASSERT_NE(chart, nullptr);
     chart->grab();  // paints
@@ -155,7 +128,7 @@ TEST(TableHeader, WordsStandOverTheirColumns) {
   QtRun run;
   for (const HeaderCase& c : cases) {
     SCOPED_TRACE(c.screen);
-    Form& form = run.Show(c.screen);
+    Form& form = *run.Show(c.screen);
     auto* header = qobject_cast<qt::HeaderLabel*>(run.W(form, c.label));
     ASSERT_NE(header, nullptr);
     EXPECT_EQ(header->text().toStdString(), form.ctl(c.label).Text());

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -17,32 +18,42 @@
 namespace orv {
 namespace {
 
-// Screens shown from their routes: the run has the real database beside the
-// runner, so screens that read data are filled.
-struct Shown : test::ScreenRun {
-  Shown() : test::ScreenRun("", ORVANTA_BIN_DIR) {}
-};
+using Shown = test::RealRun;
 
-TEST(AccessibleNames, EveryReachableControlOnEveryScreenIsNamed) {
+// Every registered screen, shown from its route on the real database: its
+// rows agree (a name declared once, a container that exists, a key filter only
+// on a box, one default and one cancel button at most), and every control a
+// user reaches has a name, every input box its prompt.
+TEST(EveryScreen, RowsAgreeAndEveryReachableControlIsNamed) {
   Shown run;
   int screens = 0, controls = 0;
   for (const auto& [name, factory] : AllScreens().screens) {
     Form* form = run.Show(name);
     ASSERT_NE(form, nullptr) << name;
     ++screens;
+    EXPECT_EQ(form->name(), name);
     EXPECT_FALSE(WindowName(*form).empty()) << name;
+    std::set<std::string> keys;
+    int defaults = 0, cancels = 0;
     for (const auto& owned : form->controls()) {
       const Control& c = *owned;
+      const std::string where = name + "." + c.key();
+      EXPECT_TRUE(keys.insert(c.key()).second) << where << " is declared twice";
+      EXPECT_TRUE(c.container().empty() || form->find(c.container()) != nullptr) << where << " sits nowhere";
+      EXPECT_TRUE(c.kind() == Kind::TextBox || c.filter() == nullptr) << where << " has a key filter";
+      defaults += c.IsDefault() ? 1 : 0;
+      cancels += c.IsCancel() ? 1 : 0;
       if (!IsInteractive(c.kind()) || !c.Visible()) continue;
       ++controls;
-      EXPECT_FALSE(AccessibleName(c).empty()) << name << "." << c.key();
-      // A box or list that its own label does not prompt for names itself
-      // by its tool tip or as the working line; anything else is a gap.
+      EXPECT_FALSE(AccessibleName(c).empty()) << where;
+      // A box that its own label does not prompt for names itself by its
+      // tool tip or as the working line; anything else is a gap.
       if (c.kind() == Kind::TextBox && PromptLabel(c) == nullptr) {
-        EXPECT_TRUE(!c.ToolTip().empty() || !c.Enabled() || c.form().name() == "frmHelp")
-            << name << "." << c.key() << " is an input box without a label";
+        EXPECT_TRUE(!c.ToolTip().empty() || !c.Enabled() || name == "frmHelp") << where << " has no label";
       }
     }
+    EXPECT_LE(defaults, 1) << name;
+    EXPECT_LE(cancels, 1) << name;
     if (name != "frmMain") run.program.UserAction([&] { run.program.Unload(name); });
   }
   EXPECT_FALSE(run.program.Ended());

@@ -14,7 +14,7 @@ namespace {
 
 TEST(PaddedRow, FormatsCutsAndPadsEachColumn) {
   test::ScratchDir dir;
-  auto db = data::Database::Open(test::MakeDatabase(dir.path,
+  auto db = data::Database::Open(test::MakeDatabase(dir / "OrvantaData.db",
                                                     "CREATE TABLE T (Name TEXT, Code TEXT, Value REAL, Note TEXT);"
                                                     "INSERT INTO T VALUES ('Praseodymium', '42', 100, 'Beta');"
                                                     "INSERT INTO T VALUES ('Ne', 'Alpha', 0.5, NULL);"));

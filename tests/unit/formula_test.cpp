@@ -17,7 +17,7 @@
 #include "shell/rich_text.h"
 #include "shell/screens/module1.h"
 #include "shell/text.h"
-#include "tests/support/fake_services.h"
+#include "tests/unit/screen_run.h"
 
 namespace orv {
 namespace {
@@ -140,17 +140,15 @@ TEST_F(FormulaTest, SecondGroupBehindAGroupWithDigitNeverEnds) {
 // every turn, some 32768 times; the query goes to the file once, the rest is
 // answered from memory, and the press ends at once.
 TEST(FormulaScreens, TheEndlessGroupEndsAtOnceWithTheDataEntryMessage) {
-  test::FakeServices fakes;
-  Program program(AllScreens(), fakes.services(), ORVANTA_BIN_DIR);
-  program.Start();
-  program.UserAction([&] { program.Show("frmWeights"); });
-  Form& form = *program.Find("frmWeights");
+  test::RealRun run;
+  Program& program = run.program;
+  Form& form = *run.Show("frmWeights");
   for (char c : std::string("(OH)2(SO4)")) program.UserKey(form, &form.ctl("RichTextBox1"), Key{c, c, 0});
   const std::size_t before = Store(program).gDatabase->FileQueries();
   const auto start = std::chrono::steady_clock::now();
   program.UserKey(form, &form.ctl("RichTextBox1"), Key{kKeyReturn, '\r', 0});
   const auto elapsed = std::chrono::steady_clock::now() - start;
-  EXPECT_EQ(fakes.messages.boxes, (Boxes{{"Data entry error", Icon::None, "Orvanta"}}));
+  EXPECT_EQ(run.messages.boxes, (Boxes{{"Data entry error", Icon::None, "Orvanta"}}));
   EXPECT_LE(Store(program).gDatabase->FileQueries(), before + 1);
   EXPECT_EQ(Store(program).gSql, "SELECT * FROM MolecularWeights");
   EXPECT_FALSE(data::CurrentRecordset(Store(program)).IsOpen());

@@ -3,10 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -125,28 +123,6 @@ TEST(Help, EveryTopicOpensAFileOfItsOwnAndOnlyTheBareHeadsOpenNone) {
   }
   EXPECT_EQ(bare, (std::vector<std::string>{"Orvanta", "Tables", "Reactions", "Solutions", "Gases", "Energy"}));
   EXPECT_EQ(texts.size(), 48u);  // no two topics share a file
-  EXPECT_FALSE(run.program.Ended());
-}
-
-TEST(Help, TopicsFoundByVisibleTextThenClearPrintAndCancel) {
-  HelpRun run;
-  run.tree().tree().SetExpanded("r Orvanta", true);
-  run.tree().tree().SetExpanded("s Gases", true);
-  UserDblClickNode(run.tree(), "s Molecular Weight");  // shown as "Molecular  Weight"
-  std::ifstream file(ORVANTA_BIN_DIR "/MolecularWeight.txt", std::ios::binary);
-  std::ostringstream text;
-  text << file.rdbuf();
-  EXPECT_EQ(run.rtb().Text(), text.str());
-  EXPECT_TRUE(run.messages.boxes.empty());
-
-  run.program.UserClick(run.help->ctl("cmdPrint"));
-  EXPECT_EQ(run.printer.printed, (std::vector<std::string>{"frmHelp"}));
-  run.program.UserClick(run.help->ctl("cmdClear"));
-  EXPECT_EQ(run.rtb().Text(), "");
-  EXPECT_EQ(run.tree().tree().SelectedItem()->key, "s Molecular Weight");
-  EXPECT_TRUE(run.tree().tree().Find("r Orvanta")->expanded);
-  run.program.UserClick(run.help->ctl("cmdCancel"));
-  EXPECT_EQ(run.program.Find("frmHelp"), nullptr);
   EXPECT_FALSE(run.program.Ended());
 }
 

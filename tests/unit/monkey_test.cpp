@@ -8,9 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "app/registry.h"
-#include "shell/program.h"
-#include "tests/support/fake_services.h"
+#include "tests/unit/screen_run.h"
 
 namespace orv {
 namespace {
@@ -36,9 +34,8 @@ const char* const kPastes[] = {
 // actions taken.
 int RunMonkey(unsigned seed, bool withDatabase, int steps) {
   SCOPED_TRACE("seed " + std::to_string(seed));
-  test::FakeServices fakes;
-  Program program(AllScreens(), fakes.services(), withDatabase ? ORVANTA_BIN_DIR : "/nonexistent");
-  program.Start();
+  test::ScreenRun run("", withDatabase ? ORVANTA_BIN_DIR : "");
+  Program& program = run.program;
   std::mt19937 rng(seed);
   auto pick = [&rng](std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(rng); };
 
@@ -79,7 +76,7 @@ int RunMonkey(unsigned seed, bool withDatabase, int steps) {
   if (program.Ended()) {
     EXPECT_TRUE(program.LoadedForms().empty());
     if (program.EndedOnError()) {
-      EXPECT_EQ(fakes.messages.fatal, program.EndWords());
+      EXPECT_EQ(run.messages.fatal, program.EndWords());
     }
   }
   return step;

@@ -29,12 +29,14 @@ struct ScratchDir {
     std::error_code ignored;
     std::filesystem::remove_all(path, ignored);
   }
+  std::filesystem::path operator/(const std::string& name) const { return path / name; }
   std::filesystem::path path;
 };
 
-// Creates the database file the program looks for in `dir`; returns its name.
-inline std::string MakeDatabase(const std::filesystem::path& dir, const std::string& sql) {
-  const std::string file = (dir / std::string(data::kDatabaseFileName)).string();
+// Writes a database straight through SQLite, for what the real data must not
+// hold (a 110th element, repeated rows, nulls in key fields); returns its name.
+inline std::string MakeDatabase(const std::filesystem::path& path, const std::string& sql) {
+  const std::string file = path.string();
   sqlite3* db = nullptr;
   EXPECT_EQ(sqlite3_open(file.c_str(), &db), SQLITE_OK);
   EXPECT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
@@ -58,7 +60,7 @@ inline std::string Raised(const std::function<void()>& f) {
 struct ScreenRun {
   explicit ScreenRun(const std::string& sql, const std::string& folder = "")
       : program(AllScreens(), fakes.services(), folder.empty() ? dir.path.string() : folder) {
-    if (!sql.empty()) MakeDatabase(dir.path, sql);
+    if (!sql.empty()) MakeDatabase(dir / std::string(data::kDatabaseFileName), sql);
     program.Start();
     startupBoxes = messages.boxes.size();
     messages.boxes.clear();
@@ -74,6 +76,11 @@ struct ScreenRun {
   FakePrinter& printer = fakes.printer;
   Program program;
   std::size_t startupBoxes = 0;
+};
+
+// Started on the real database and help files beside the test executables.
+struct RealRun : ScreenRun {
+  RealRun() : ScreenRun("", ORVANTA_BIN_DIR) {}
 };
 
 }  // namespace orv::test

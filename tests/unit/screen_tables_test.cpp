@@ -1,58 +1,19 @@
-// The screens' control tables and bindings, checked when each screen is
-// built: a routine bound to a control the table lacks, a box emptied that is
-// not there, or a table whose rows contradict each other fails here rather
-// than on the day a user presses the button.
+// The rules a screen's routines meet, on a small screen of its own: boxes
+// emptied in order, and a routine bound to a control the table lacks, or a
+// box emptied that is not there, aborting rather than failing on the day a
+// user presses the button.
 
 #include <gtest/gtest.h>
 
-#include <set>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "app/registry.h"
 #include "shell/program.h"
+#include "tests/support/fake_services.h"
 
 namespace orv {
 namespace {
-
-class QuietMessages : public MessageService {
- public:
-  void Show(std::string_view, Icon, std::string_view) override {}
-  void ShowFatal(std::string_view) override {}
-};
-
-// Building a screen binds its routines; a name its table does not declare
-// aborts there, naming the screen and the control.
-TEST(ScreenTables, EveryScreenBuildsAndItsRowsAgree) {
-  QuietMessages messages;
-  Program program(AllScreens(), {.messages = &messages}, "/nonexistent");
-  ASSERT_FALSE(AllScreens().screens.empty());
-  for (const auto& [name, factory] : AllScreens().screens) {
-    SCOPED_TRACE(name);
-    const std::unique_ptr<Form> form = factory(program);
-    ASSERT_NE(form, nullptr);
-    EXPECT_EQ(form->name(), name);
-    EXPECT_FALSE(form->controls().empty());
-
-    std::set<std::string> keys;
-    int defaults = 0;
-    int cancels = 0;
-    for (const auto& c : form->controls()) {
-      EXPECT_TRUE(keys.insert(c->key()).second) << c->key() << " is declared twice";
-      if (!c->container().empty()) {
-        EXPECT_NE(form->find(c->container()), nullptr) << c->key() << " sits in undeclared " << c->container();
-      }
-      if (c->kind() != Kind::TextBox) {
-        EXPECT_EQ(c->filter(), nullptr) << c->key() << " has a key filter";
-      }
-      defaults += c->IsDefault() ? 1 : 0;
-      cancels += c->IsCancel() ? 1 : 0;
-    }
-    EXPECT_LE(defaults, 1);
-    EXPECT_LE(cancels, 1);
-  }
-}
 
 constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text1"},
@@ -78,7 +39,7 @@ class frmBoxes : public Form {
 
 class ScreenRulesTest : public ::testing::Test {
  protected:
-  QuietMessages messages;
+  test::FakeMessages messages;
   ScreenRegistry registry;
   Program program{registry, {.messages = &messages}, "/nonexistent"};
   frmBoxes form{program};
