@@ -35,6 +35,11 @@ class FormWindow : public QWidget {
     e->ignore();
     view_.CloseRequested(form_);
   }
+  // The window itself draws nothing that shows the keyboard focus, so gaining
+  // or losing it (the splash takes the keys itself) repaints nothing; QWidget
+  // would repaint the whole window with every control on it.
+  void focusInEvent(QFocusEvent*) override {}
+  void focusOutEvent(QFocusEvent*) override {}
 
  private:
   QtView& view_;

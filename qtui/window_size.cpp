@@ -8,6 +8,7 @@
 #include <QWidget>
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "shell/look.h"
 
@@ -42,7 +43,7 @@ QMargins FrameOf(const QWidget& window) {
 // words measured in both, plain, bold (captions) and large bold (headings,
 // 1.6 times the size), since the fonts' hinting makes each grow a little
 // differently.
-double DesktopFontScale() {
+double MeasureDesktopFontScale() {
   static const QString kWords = QStringLiteral("The Quick Brown Fox Jumps Over The Lazy Dog 0123456789.,");
   struct Variant {
     bool bold;
@@ -61,6 +62,23 @@ double DesktopFontScale() {
                      look::FontScale(f.horizontalAdvance(kWords), d.horizontalAdvance(kWords), f.height(), d.height()));
   }
   return scale;
+}
+
+// The measurement depends only on the application font and the screen's
+// resolution, so every window after the first reuses it until either
+// changes.
+double DesktopFontScale() {
+  struct Measured {
+    QFont font;
+    qreal dpi = 0;
+    double scale = 1.0;
+  };
+  static std::optional<Measured> last;
+  const QFont font = QApplication::font();
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  const qreal dpi = screen != nullptr ? screen->logicalDotsPerInchY() : 0;
+  if (!last || last->font != font || last->dpi != dpi) last = Measured{font, dpi, MeasureDesktopFontScale()};
+  return last->scale;
 }
 
 }  // namespace

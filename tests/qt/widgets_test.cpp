@@ -43,6 +43,37 @@ TEST(Splash, DoesNotStayAboveLaterScreens) {
   EXPECT_TRUE(window->isVisible());
 }
 
+// Counts the paint events of the widgets it watches.
+class PaintCounter : public QObject {
+ public:
+  int paints = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++paints;
+    return false;
+  }
+};
+
+// The splash takes the keys itself. Its window losing and regaining them
+// changes nothing drawn, so neither it nor anything on it is painted again.
+TEST(Splash, FocusComingAndGoingRepaintsNothing) {
+  QtRun run;
+  QWidget* window = run.view.Window(*run.program.Find("frmSplash"));
+  ASSERT_NE(window, nullptr);
+  ASSERT_TRUE(window->hasFocus());
+  PaintCounter counter;
+  window->installEventFilter(&counter);
+  for (QWidget* w : window->findChildren<QWidget*>()) w->installEventFilter(&counter);
+  window->clearFocus();
+  QtRun::Settle();
+  EXPECT_FALSE(window->hasFocus());
+  window->setFocus();
+  QtRun::Settle();
+  EXPECT_TRUE(window->hasFocus());
+  EXPECT_EQ(counter.paints, 0);
+}
+
 // Whether a text widget shows the whole of its text.
 bool ShowsWholeText(QWidget* w) {
   if (auto* edit = qobject_cast<QLineEdit*>(w)) {
