@@ -81,10 +81,7 @@ std::string Txt(const Row& row, const std::string& field) {
 
 class DataStoreTest : public ::testing::Test {
  protected:
-  void SetUp() override {
-    store.gWorkspace = &DefaultWorkspace();
-    store.gDatabase = store.gWorkspace->OpenDatabase(kBinDir + "/" + std::string(kDatabaseFileName));
-  }
+  void SetUp() override { test::OpenRealDatabase(store); }
   std::vector<Row> Table(const std::string& name) { return ReadAll(store, "SELECT * FROM " + name); }
 
   DataStore store;

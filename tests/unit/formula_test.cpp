@@ -32,9 +32,7 @@ const Box kNoObject{"Object variable or With block variable not set", Icon::Info
 class FormulaTest : public ::testing::Test {
  protected:
   void SetUp() override {
-    store.gWorkspace = &data::DefaultWorkspace();
-    store.gDatabase =
-        store.gWorkspace->OpenDatabase(std::string(ORVANTA_BIN_DIR) + "/" + std::string(data::kDatabaseFileName));
+    test::OpenRealDatabase(store);
     data::FillElements(store);
   }
 

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "app/registry.h"
+#include "data/engine.h"
 #include "data/store.h"
 #include "shell/program.h"
 #include "tests/support/fake_services.h"
@@ -42,6 +43,13 @@ inline std::string MakeDatabase(const std::filesystem::path& path, const std::st
   EXPECT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
   sqlite3_close(db);
   return file;
+}
+
+// Opens `store` on the real database beside the test executables, as the
+// program's start-up does.
+inline void OpenRealDatabase(data::DataStore& store) {
+  store.gWorkspace = &data::DefaultWorkspace();
+  store.gDatabase = store.gWorkspace->OpenDatabase(ORVANTA_BIN_DIR "/" + std::string(data::kDatabaseFileName));
 }
 
 // The words of the run-time error `f` raises.
