@@ -95,40 +95,36 @@ TEST(QtAccessibility, EveryScreenIsNamedAndHasTheRightRoles) {
 // must reach the name Qt reads out.
 TEST(QtAccessibility, BoxesAreLabelledByTheirPromptsAndFollowThem) {
   QtRun run;
-  Form* form = run.Show("frmCharlesLaw");
-  ASSERT_NE(form, nullptr);
-  QAccessibleInterface* box = QAccessible::queryAccessibleInterface(run.view.Widget(form->ctl("txtFinalEntry")));
+  Form& form = run.Open("frmCharlesLaw");
+  QAccessibleInterface* box = QAccessible::queryAccessibleInterface(run.view.Widget(form.ctl("txtFinalEntry")));
   ASSERT_NE(box, nullptr);
   const auto labels = box->relations(QAccessible::Label);
   ASSERT_EQ(labels.size(), 1);
-  EXPECT_EQ(labels.first().first->object(), run.view.Widget(form->ctl("Label3")));
-  run.program.UserClick(form->ctl("opt2"));
-  EXPECT_EQ(box->text(QAccessible::Name).toStdString(), AccessibleName(form->ctl("txtFinalEntry")));
-  EXPECT_TRUE(QAccessible::queryAccessibleInterface(run.view.Widget(form->ctl("opt2")))->state().checked);
+  EXPECT_EQ(labels.first().first->object(), run.view.Widget(form.ctl("Label3")));
+  run.program.UserClick(form.ctl("opt2"));
+  EXPECT_EQ(box->text(QAccessible::Name).toStdString(), AccessibleName(form.ctl("txtFinalEntry")));
+  EXPECT_TRUE(QAccessible::queryAccessibleInterface(run.view.Widget(form.ctl("opt2")))->state().checked);
 }
 
 TEST(QtAccessibility, PicturesAndChartsSayWhatTheyShow) {
   QtRun run;
-  Form* atoms = run.Show("frmBuildAtoms");
-  ASSERT_NE(atoms, nullptr);
-  run.program.UserClick(atoms->ctl("cmdProton"));
-  QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(run.view.Widget(atoms->ctl("Picture1")));
+  Form& atoms = run.Open("frmBuildAtoms");
+  run.program.UserClick(atoms.ctl("cmdProton"));
+  QAccessibleInterface* picture = QAccessible::queryAccessibleInterface(run.view.Widget(atoms.ctl("Picture1")));
   ASSERT_NE(picture, nullptr);
   EXPECT_EQ(picture->role(), QAccessible::Graphic);
   EXPECT_EQ(picture->text(QAccessible::Name).toStdString(), "Atom");
-  EXPECT_EQ(picture->text(QAccessible::Description).toStdString(), AccessibleDescription(atoms->ctl("Picture1")));
+  EXPECT_EQ(picture->text(QAccessible::Description).toStdString(), AccessibleDescription(atoms.ctl("Picture1")));
 
-  Form* chart = run.Show("frmPTable2");
-  ASSERT_NE(chart, nullptr);
-  QAccessibleInterface* graph = QAccessible::queryAccessibleInterface(run.view.Widget(chart->ctl("MSChart1")));
+  Form& chart = run.Open("frmPTable2");
+  QAccessibleInterface* graph = QAccessible::queryAccessibleInterface(run.view.Widget(chart.ctl("MSChart1")));
   ASSERT_NE(graph, nullptr);
   EXPECT_EQ(graph->role(), QAccessible::Chart);
-  EXPECT_FALSE(chart->ctl("MSChart1").chart().content().title.empty());
-  EXPECT_EQ(graph->text(QAccessible::Name).toStdString(), chart->ctl("MSChart1").chart().content().title);
+  EXPECT_FALSE(chart.ctl("MSChart1").chart().content().title.empty());
+  EXPECT_EQ(graph->text(QAccessible::Name).toStdString(), chart.ctl("MSChart1").chart().content().title);
 
-  Form* periodic = run.Show("frmPeriodic");
-  ASSERT_NE(periodic, nullptr);
-  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(run.view.Window(*periodic));
+  Form& periodic = run.Open("frmPeriodic");
+  QAccessibleInterface* window = QAccessible::queryAccessibleInterface(run.view.Window(periodic));
   EXPECT_EQ(window->text(QAccessible::Name).toStdString(), "Orvanta");
 }
 
@@ -137,21 +133,20 @@ TEST(QtAccessibility, PicturesAndChartsSayWhatTheyShow) {
 // outside the focused button.
 TEST(QtAccessibility, TheFocusedButtonIsMarked) {
   QtRun run;
-  Form* form = run.Show("frmCharlesLaw");
-  ASSERT_NE(form, nullptr);
-  QWidget* window = run.view.Window(*form);
+  Form& form = run.Open("frmCharlesLaw");
+  QWidget* window = run.view.Window(form);
   window->activateWindow();
   QApplication::setActiveWindow(window);
   auto grabWithFocus = [&](const char* name) {
-    run.program.UserFocus(form->ctl(name));
+    run.program.UserFocus(form.ctl(name));
     QCoreApplication::processEvents();
-    return GrabForm(run.view, *form);
+    return GrabForm(run.view, form);
   };
   const QImage onClear = grabWithFocus("cmdClear");
   const QImage onCancel = grabWithFocus("cmdCancel");
   ASSERT_FALSE(onClear.isNull());
   EXPECT_NE(onClear, onCancel);
-  QWidget* cancel = run.view.Widget(form->ctl("cmdCancel"));
+  QWidget* cancel = run.view.Widget(form.ctl("cmdCancel"));
   const QPoint corner = cancel->mapTo(window, QPoint(0, cancel->height() / 2)) - QPoint(1, 0);
   const qreal ratio = onCancel.devicePixelRatio();
   const QColor ring = onCancel.pixelColor((QPointF(corner) * ratio).toPoint());

@@ -170,14 +170,13 @@ TEST(Legibility, PeriodicTableCaptionsReadOnTheirFacesAndTheFormsGray) {
     SCOPED_TRACE(palette.name);
     const WithPalette with(palette.make());
     QtRun run;
-    Form* form = run.Show("frmPeriodic");
-    ASSERT_NE(form, nullptr);
+    Form& form = run.Open("frmPeriodic");
     // The form keeps a gray ground, on which the key's colours were chosen.
-    const int ground = ToRgb(run.Window(*form)->palette().color(QPalette::Active, QPalette::Window));
+    const int ground = ToRgb(run.Window(form)->palette().color(QPalette::Active, QPalette::Window));
     EXPECT_GE(look::Luminance(ground), look::Luminance(0xC0C0C0)) << std::hex << ground;
     int elements = 0;
     double least = 21;
-    for (const auto& c : form->controls()) {
+    for (const auto& c : form.controls()) {
       QWidget* w = run.Widget(*c);
       if (c->kind() == Kind::Button && c->BackColor() != kNoColor) {
         ++elements;
@@ -208,10 +207,9 @@ TEST(Legibility, TheChartFollowsThePalette) {
     const QPalette p = palette.make();
     const WithPalette with(p);
     QtRun run;
-    Form* form = run.Show("frmPTable2");
-    ASSERT_NE(form, nullptr);
+    Form& form = run.Open("frmPTable2");
     QWidget* chart = nullptr;
-    for (const auto& c : form->controls()) {
+    for (const auto& c : form.controls()) {
       if (c->kind() == Kind::Chart) chart = run.Widget(*c);
     }
     ASSERT_NE(chart, nullptr);
@@ -229,11 +227,10 @@ TEST(Legibility, TheChartFollowsThePalette) {
 // tip the screen gave stays.
 TEST(Legibility, AWholeLongAnswerCanBeRead) {
   QtRun run;
-  Form* form = run.Show("frmSigfig");
-  ASSERT_NE(form, nullptr);
+  Form& form = run.Open("frmSigfig");
   Control* answer = nullptr;
   Control* tipped = nullptr;
-  for (const auto& c : form->controls()) {
+  for (const auto& c : form.controls()) {
     if (c->kind() == Kind::TextBox && !c->Enabled() && c->ToolTip().empty()) answer = c.get();
     if (c->kind() == Kind::Button && !c->ToolTip().empty()) tipped = c.get();
   }

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <memory>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -44,6 +45,11 @@ class QtRun {
     program.UserAction([&] { program.Show(name); });
     Settle();
     return program.Ended() ? nullptr : program.Find(name);
+  }
+  // A screen the test needs: one that does not load stops the test.
+  Form& Open(const std::string& name) {
+    Form* form = Show(name);
+    return form != nullptr ? *form : throw std::runtime_error(name + " did not load");
   }
   void Unload(const std::string& name) {
     program.UserAction([&] { program.Unload(name); });

@@ -85,7 +85,7 @@ bool ShowsWholeText(QWidget* w) {
 
 TEST(MultiLineBox, WorkingLineOfSixIsotopesIsShownWhole) {
   QtRun run;
-  Form& form = *run.Show("frmAverageMass");
+  Form& form = run.Open("frmAverageMass");
   const char* inputs[] = {"Text1", "Text2", "Text3",  "Text4",  "Text5",  "Text6",
                           "Text8", "Text9", "Text10", "Text11", "Text12", "Text13"};
   const char* values[] = {"123456.7", "0.1234567", "234567.8", "0.2345678", "345678.9", "0.3456789",
@@ -108,7 +108,7 @@ TEST(TrendChart, LabelsEveryCategoryLegibly) {
   QtRun run;
   for (const char* screen : {"frmPTable2", "frmPTable3", "frmPTable7"}) {
     SCOPED_TRACE(screen);
-    Form& form = *run.Show(screen);
+    Form& form = run.Open(screen);
     auto* chart = qobject_cast<qt::ChartWidget*>(run.W(form, "MSChart1"));
     ASSERT_NE(chart, nullptr);
     chart->grab();  // paints
@@ -159,7 +159,7 @@ TEST(TableHeader, WordsStandOverTheirColumns) {
   QtRun run;
   for (const HeaderCase& c : cases) {
     SCOPED_TRACE(c.screen);
-    Form& form = *run.Show(c.screen);
+    Form& form = run.Open(c.screen);
     auto* header = qobject_cast<qt::HeaderLabel*>(run.W(form, c.label));
     ASSERT_NE(header, nullptr);
     EXPECT_EQ(header->text().toStdString(), form.ctl(c.label).Text());

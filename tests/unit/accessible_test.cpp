@@ -88,52 +88,47 @@ TEST(AccessibleNames, PromptLabelsFollowTheLayout) {
   Shown run;
   for (const Case& k : cases) {
     SCOPED_TRACE(std::string(k.screen) + "." + k.box);
-    Form* form = run.Show(k.screen);
-    ASSERT_NE(form, nullptr);
-    const Control* label = PromptLabel(form->ctl(k.box));
+    Form& form = run.Open(k.screen);
+    const Control* label = PromptLabel(form.ctl(k.box));
     EXPECT_EQ(label != nullptr ? label->name() : std::string(), k.label);
   }
 }
 
 TEST(AccessibleNames, NamesReadTheCurrentCaptions) {
   Shown run;
-  Form* charles = run.Show("frmCharlesLaw");
-  ASSERT_NE(charles, nullptr);
+  Form& charles = run.Open("frmCharlesLaw");
   // The second option rewrites the prompts; the names follow.
-  run.program.UserClick(charles->ctl("opt2"));
-  EXPECT_EQ(AccessibleName(charles->ctl("txtFinalEntry")), WithoutMnemonic(charles->ctl("Label3").Caption()));
-  EXPECT_EQ(AccessibleName(charles->ctl("txtFinalAnswer")), "The final volume is");
-  EXPECT_EQ(AccessibleName(charles->ctl("Text1")), "Calculation");
+  run.program.UserClick(charles.ctl("opt2"));
+  EXPECT_EQ(AccessibleName(charles.ctl("txtFinalEntry")), WithoutMnemonic(charles.ctl("Label3").Caption()));
+  EXPECT_EQ(AccessibleName(charles.ctl("txtFinalAnswer")), "The final volume is");
+  EXPECT_EQ(AccessibleName(charles.ctl("Text1")), "Calculation");
   // A button whose caption is a sign goes by its tool tip.
-  EXPECT_EQ(AccessibleName(charles->ctl("cmdHelp")), "Press for help");
-  EXPECT_EQ(AccessibleName(charles->ctl("cmdOk")), "Ok");
+  EXPECT_EQ(AccessibleName(charles.ctl("cmdHelp")), "Press for help");
+  EXPECT_EQ(AccessibleName(charles.ctl("cmdOk")), "Ok");
 
-  Form* periodic = run.Show("frmPeriodic");
-  ASSERT_NE(periodic, nullptr);
-  EXPECT_EQ(WindowName(*periodic), "Orvanta");
+  Form& periodic = run.Open("frmPeriodic");
+  EXPECT_EQ(WindowName(periodic), "Orvanta");
 
   // Members of a control array share their prompt, numbered.
-  Form* weights = run.Show("frmWeights");
-  ASSERT_NE(weights, nullptr);
-  EXPECT_EQ(AccessibleName(weights->ctl("txtComposition", 2)),
-            WithoutMnemonic(weights->ctl("chk1").Caption()) + " 3");  // a screen with no caption
-  EXPECT_EQ(WindowName(*charles), charles->Caption());
+  Form& weights = run.Open("frmWeights");
+  EXPECT_EQ(AccessibleName(weights.ctl("txtComposition", 2)),
+            WithoutMnemonic(weights.ctl("chk1").Caption()) + " 3");  // a screen with no caption
+  EXPECT_EQ(WindowName(charles), charles.Caption());
 }
 
 TEST(AccessibleNames, TheAtomPictureSaysWhatItDraws) {
   Shown run;
-  Form* atoms = run.Show("frmBuildAtoms");
-  ASSERT_NE(atoms, nullptr);
-  const Control& picture = atoms->ctl("Picture1");
+  Form& atoms = run.Open("frmBuildAtoms");
+  const Control& picture = atoms.ctl("Picture1");
   EXPECT_EQ(AccessibleName(picture), "Atom");
   EXPECT_EQ(AccessibleDescription(picture), "Protons 0; Neutrons 0; Electrons 0; Energy Levels 0");
-  run.program.UserClick(atoms->ctl("cmdProton"));
-  run.program.UserClick(atoms->ctl("cmdProton"));
-  run.program.UserClick(atoms->ctl("cmdNeutrons"));
-  run.program.UserClick(atoms->ctl("cmdEnergyLevel"));
-  run.program.UserClick(atoms->ctl("cmdElectrons"));
+  run.program.UserClick(atoms.ctl("cmdProton"));
+  run.program.UserClick(atoms.ctl("cmdProton"));
+  run.program.UserClick(atoms.ctl("cmdNeutrons"));
+  run.program.UserClick(atoms.ctl("cmdEnergyLevel"));
+  run.program.UserClick(atoms.ctl("cmdElectrons"));
   EXPECT_EQ(AccessibleDescription(picture),
-            "The atom is " + atoms->ctl("Text1").Text() + "; Protons 2; Neutrons 1; Electrons 1; Energy Levels 1");
+            "The atom is " + atoms.ctl("Text1").Text() + "; Protons 2; Neutrons 1; Electrons 1; Energy Levels 1");
 }
 
 TEST(AccessibleNames, MnemonicsAreNotRead) {
@@ -161,11 +156,10 @@ TEST(ArrowKeys, MoveThroughThePeriodicTable) {
       {"cmdH", kKeyLeft, ""},       {"cmdH", kKeyUp, ""},
   };
   Shown run;
-  Form* form = run.Show("frmPeriodic");
-  ASSERT_NE(form, nullptr);
+  Form& form = run.Open("frmPeriodic");
   for (const Case& k : cases) {
     SCOPED_TRACE(std::string(k.from) + " key " + std::to_string(k.key));
-    const Control* to = ButtonToward(form->ctl(k.from), k.key);
+    const Control* to = ButtonToward(form.ctl(k.from), k.key);
     EXPECT_EQ(to != nullptr ? to->name() : std::string(), k.to);
   }
 }

@@ -140,7 +140,7 @@ TEST_F(FormulaTest, SecondGroupBehindAGroupWithDigitNeverEnds) {
 TEST(FormulaScreens, TheEndlessGroupEndsAtOnceWithTheDataEntryMessage) {
   test::RealRun run;
   Program& program = run.program;
-  Form& form = *run.Show("frmWeights");
+  Form& form = run.Open("frmWeights");
   for (char c : std::string("(OH)2(SO4)")) program.UserKey(form, &form.ctl("RichTextBox1"), Key{c, c, 0});
   const std::size_t before = Store(program).gDatabase->FileQueries();
   const auto start = std::chrono::steady_clock::now();
@@ -198,16 +198,15 @@ TEST_F(FormulaTest, ElementSymbolsAreReadAgainOnEveryTest) {
 
 TEST(FormulaScreens, WeightsWithoutTheDatabaseWeighNothing) {
   test::ScreenRun run("");
-  Form* form = run.Show("frmWeights");
-  ASSERT_NE(form, nullptr);
+  Form& form = run.Open("frmWeights");
   // Form_Load's trap shows the words once and skips the rest: the buttons stay ready.
   EXPECT_EQ(run.messages.boxes, Boxes{kNoObject});
-  EXPECT_TRUE(form->ctl("cmdOk").Enabled());
+  EXPECT_TRUE(form.ctl("cmdOk").Enabled());
   run.messages.boxes.clear();
-  for (char c : std::string("Ca(OH)2")) run.program.UserKey(*form, &form->ctl("RichTextBox1"), Key{c, c, 0});
-  run.program.UserClick(form->ctl("cmdOk"));
-  EXPECT_EQ(form->ctl("txtWeights2").Text(), "0.000");
-  EXPECT_EQ(form->ctl("Text1").Text(), "0");
+  for (char c : std::string("Ca(OH)2")) run.program.UserKey(form, &form.ctl("RichTextBox1"), Key{c, c, 0});
+  run.program.UserClick(form.ctl("cmdOk"));
+  EXPECT_EQ(form.ctl("txtWeights2").Text(), "0.000");
+  EXPECT_EQ(form.ctl("Text1").Text(), "0");
   EXPECT_EQ(run.messages.boxes, Boxes{kNoObject});  // the group's look-up has a trap of its own
 }
 

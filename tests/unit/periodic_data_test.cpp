@@ -45,14 +45,13 @@ TEST(PeriodicData, FillsTheBoxesUntilAFieldFails) {
     const bool database = std::string(c.symbol) != "H";
     test::ScreenRun run(database ? kGeneralInfo : "");
     Periodic(run.program).SelectedSymbol = c.symbol;
-    Form* f = run.Show("frmPeriodicData");
-    ASSERT_NE(f, nullptr);
+    Form& f = run.Open("frmPeriodicData");
     const test::Boxes boxes = *c.message ? test::Boxes{{c.message, Icon::Information, "Periodic Data"}} : test::Boxes{};
     EXPECT_EQ(run.messages.boxes, boxes);
-    std::string shown = f->ctl("Text1").Text();
-    for (int i = 2; i <= 14; ++i) shown += "|" + f->ctl("Text" + std::to_string(i)).Text();
+    std::string shown = f.ctl("Text1").Text();
+    for (int i = 2; i <= 14; ++i) shown += "|" + f.ctl("Text" + std::to_string(i)).Text();
     EXPECT_EQ(shown, c.boxes);
-    EXPECT_TRUE(f->Visible());
+    EXPECT_TRUE(f.Visible());
     EXPECT_FALSE(run.program.Ended());
     EXPECT_EQ(Store(run.program).gSql, "SELECT * FROM GeneralInfo WHERE Symbol = '" + std::string(c.symbol) + "'");
     if (database) {

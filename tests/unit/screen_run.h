@@ -77,6 +77,11 @@ struct ScreenRun {
     program.UserAction([&] { program.Show(screen); });
     return program.Find(screen);
   }
+  // A screen the test needs: one that does not load stops the test.
+  Form& Open(const std::string& screen) {
+    Form* form = Show(screen);
+    return form != nullptr ? *form : throw std::runtime_error(screen + " did not load");
+  }
 
   ScratchDir dir;
   FakeServices fakes;

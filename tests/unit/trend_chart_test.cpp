@@ -64,9 +64,8 @@ TEST(TrendCharts, ReadAFixedCountOfRowsInStoredOrder) {
 
     // Stored backwards with extra rows: the first `rows` are taken as stored.
     test::ScreenRun longRun(ChartTable(table, field, 100, 1, -1));
-    Form* f = longRun.Show(screen);
-    ASSERT_NE(f, nullptr);
-    const auto& content = f->ctl("MSChart1").chart().content();
+    Form& f = longRun.Open(screen);
+    const auto& content = f.ctl("MSChart1").chart().content();
     ASSERT_EQ(content.points.size(), static_cast<std::size_t>(rows));
     EXPECT_EQ(Describe(content.points.front()), "[ 100] 1000");
     const int last = 101 - rows;
