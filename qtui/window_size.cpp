@@ -9,6 +9,8 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <utility>
+#include <vector>
 
 #include "shell/look.h"
 
@@ -81,6 +83,38 @@ double DesktopFontScale() {
   return last->scale;
 }
 
+// The fonts of a widget and of everything in it, read all at once, since a
+// widget that takes its parent's font would otherwise shrink twice.
+std::vector<std::pair<QWidget*, QFont>> FontsOf(QWidget& root) {
+  std::vector<std::pair<QWidget*, QFont>> fonts{{&root, root.font()}};
+  for (QWidget* w : root.findChildren<QWidget*>()) fonts.emplace_back(w, w->font());
+  return fonts;
+}
+
+// Gives each widget its font multiplied by `factor`.
+void ShrinkFonts(const std::vector<std::pair<QWidget*, QFont>>& fonts, double factor) {
+  for (auto [w, f] : fonts) {
+    if (f.pointSizeF() > 0) {
+      f.setPointSizeF(f.pointSizeF() * factor);
+    } else {
+      f.setPixelSize(std::max(1, static_cast<int>(std::lround(f.pixelSize() * factor))));
+    }
+    w->setFont(f);
+  }
+}
+
+// A menu bar's entries keep their spacing in pixels whatever the font, so
+// its font shrinks a step further until every entry stands in the width.
+void FitMenuBar(QMenuBar& menu, double shrink, int width) {
+  const auto fonts = FontsOf(menu);
+  double factor = shrink;
+  for (; factor > 0.5 * shrink; factor *= 0.95) {
+    ShrinkFonts(fonts, factor);
+    if (menu.sizeHint().width() <= width) return;
+  }
+  ShrinkFonts(fonts, factor);
+}
+
 }  // namespace
 
 void ScaleToFont(const Form& form, QWidget& window, QWidget& content,
@@ -89,13 +123,19 @@ void ScaleToFont(const Form& form, QWidget& window, QWidget& content,
   if (QScreen* screen = ScreenOf(window)) {
     const double wanted = DesktopFontScale();
     // A window larger than the screen at the font's scale grows only as far
-    // as the screen allows.
+    // as the screen allows, and on a screen too small for the design it
+    // shrinks; its fonts then shrink alike, so that no caption is cut.
     const QMargins frame = FrameOf(window);
-    const auto* menu = window.findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
+    auto* menu = window.findChild<QMenuBar*>(QString(), Qt::FindDirectChildrenOnly);
     const int menuHeight = menu != nullptr ? menu->sizeHint().height() : 0;
     const QRect area = screen->availableGeometry();
     scale = look::FittingScale(form.width(), form.height(), wanted, area.width() - frame.left() - frame.right(),
                                area.height() - frame.top() - frame.bottom() - menuHeight);
+    const double shrink = look::FontShrink(scale, wanted);
+    if (shrink < 1.0) {
+      ShrinkFonts(FontsOf(content), shrink);
+      if (menu != nullptr) FitMenuBar(*menu, shrink, look::Scaled(form.width(), scale));
+    }
   }
   window.setProperty(kScaleProperty, scale);
   content.setFixedSize(look::Scaled(form.width(), scale), look::Scaled(form.height(), scale));

@@ -77,8 +77,10 @@ double FittingScale(int w, int h, double wanted, int areaW, int areaH) {
   double scale = std::max(1.0, wanted);
   if (w > 0) scale = std::min(scale, static_cast<double>(areaW) / w);
   if (h > 0) scale = std::min(scale, static_cast<double>(areaH) / h);
-  return std::max(1.0, scale);
+  return scale;
 }
+
+double FontShrink(double fit, double wanted) { return std::min(1.0, fit / std::max(1.0, wanted)); }
 
 int Scaled(int length, double scale) { return static_cast<int>(std::lround(length * scale)); }
 

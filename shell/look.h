@@ -44,9 +44,16 @@ inline constexpr int kDesignFontPixels = 12;
 // font keeps the design size.
 double FontScale(double width, double designWidth, double height, double designHeight);
 
-// The largest scale, at most `wanted` and never below 1, at which a window
-// of the design size w by h still fits an area of areaW by areaH.
+// The largest scale, at most `wanted` (and at least 1, the design size, where
+// the area has room for it), at which a window of the design size w by h
+// still fits an area of areaW by areaH. Below 1 only on a screen too small
+// for the design.
 double FittingScale(int w, int h, double wanted, int areaW, int areaH);
+
+// What a window's fonts are multiplied by when its scale `fit` falls short
+// of the font's `wanted` scale, so that its captions still fit their
+// controls: 1 when the window could grow as far as the font asks.
+double FontShrink(double fit, double wanted);
 
 // A design length or position at a scale, rounded to whole pixels.
 int Scaled(int length, double scale);

@@ -332,6 +332,7 @@ std::string Join(const std::vector<std::string>& items) {
 }
 
 TEST(Fonts, NoCaptionIsCutAndEveryWindowFitsTheScreen) {
+  if (QGuiApplication::primaryScreen()->devicePixelRatio() != 1) GTEST_SKIP() << "for the screen at scale 1";
   ASSERT_EQ(QGuiApplication::primaryScreen()->availableGeometry().size(), QSize(1366, 768));
   for (double points : {9.0, 11.0, 13.0}) {
     SCOPED_TRACE(std::to_string(points) + " pt");
@@ -343,6 +344,17 @@ TEST(Fonts, NoCaptionIsCutAndEveryWindowFitsTheScreen) {
   }
 }
 
+// The same laptop screen at a scale of 2 leaves 683 by 384 for the windows:
+// those larger than that shrink, fonts and all, and still open wholly on it.
+TEST(Fonts, AtAScaleOfTwoEveryWindowStillOpensWhollyOnTheScreen) {
+  if (QGuiApplication::primaryScreen()->devicePixelRatio() != 2) GTEST_SKIP() << "for the screen at scale 2";
+  ASSERT_EQ(QGuiApplication::primaryScreen()->availableGeometry().size(), QSize(683, 384));
+  const Measured m = MeasureEveryScreen(9.0);
+  EXPECT_TRUE(m.cut.empty()) << m.cut.size() << " cut: " << Join(m.cut);
+  EXPECT_TRUE(m.offScreen.empty()) << Join(m.offScreen);
+  EXPECT_TRUE(m.folded.empty()) << Join(m.folded);
+}
+
 }  // namespace
 }  // namespace orv::qt
 
@@ -350,7 +362,10 @@ int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);
   // Whatever display the machine has: a 1366 by 768 screen at 96 dots an
   // inch, the Fusion style, and the DejaVu fonts the test set-up installs.
-  const std::string config = ORVANTA_SOURCE_DIR "/tests/qt/screen_1366x768.json";
+  // ORVANTA_TEST_SCREEN names another screen set-up beside this one.
+  const QByteArray screen = qgetenv("ORVANTA_TEST_SCREEN");
+  const std::string config =
+      ORVANTA_SOURCE_DIR "/tests/qt/" + (screen.isEmpty() ? std::string("screen_1366x768.json") : screen.toStdString());
   qputenv("QT_QPA_PLATFORM", QByteArray("offscreen:configfile=") + config.c_str());
   QApplication app(argc, argv);
   QApplication::setStyle("Fusion");

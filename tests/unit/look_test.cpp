@@ -108,11 +108,14 @@ TEST(Look, WindowsGrowWithTheFontAndNeverShrink) {
   const Fit fits[] = {
       {600, 400, 1.5, 1366, 740, 1.5},  // room enough
       {667, 414, 2.0, 1366, 700, 1366.0 / 667 < 700.0 / 414 ? 1366.0 / 667 : 700.0 / 414},
-      {900, 500, 1.5, 683, 360, 1.0},   // larger than the screen: design size
-      {600, 400, 0.5, 1366, 768, 1.0},  // never below the design
+      {900, 500, 1.5, 683, 360, 0.72},  // larger than the screen: shrinks to fit
+      {600, 400, 0.5, 1366, 768, 1.0},  // a small font keeps the design size
       {500, 600, 1.4, 1366, 720, 1.2},  // the height limits
   };
   for (const Fit& f : fits) EXPECT_DOUBLE_EQ(FittingScale(f.w, f.h, f.wanted, f.areaW, f.areaH), f.scale);
+  // The fonts shrink by what the window falls short of the font's scale.
+  const double shrinks[][3] = {{1.5, 1.5, 1.0}, {1.2, 1.5, 0.8}, {0.72, 1.5, 0.48}, {0.72, 0.5, 0.72}, {1.0, 0.5, 1.0}};
+  for (const auto& [fit, wanted, shrink] : shrinks) EXPECT_DOUBLE_EQ(FontShrink(fit, wanted), shrink);
 }
 
 // Controls on a pitch that touch, or stand one pixel apart, keep doing so at
