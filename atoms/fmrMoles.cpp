@@ -61,12 +61,7 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "lblMoles5", .rect = {482, 172, 86, 22}},
     {.kind = Kind::TextBox, .name = "Text1", .rect = {290, 208, 278, 26}, .flags = kDisabled},
 
-    {.kind = Kind::Button,
-     .name = "cmdOk",
-     .caption = "Ok",
-     .rect = {16, 312, 84, 30},
-     .toolTip = "Press to calculate your answer.",
-     .flags = kDefault},
+    OkButton({16, 312, 84, 30}, kOkTip),
     {.kind = Kind::Button,
      .name = "cmdClear",
      .caption = "Clear",
@@ -77,13 +72,8 @@ constexpr ControlSpec kControls[] = {
      .caption = "Cancel",
      .rect = {200, 312, 84, 30},
      .toolTip = "Close this screen and return to the main screen."},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {292, 312, 84, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {536, 314, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    PrintButton({292, 312, 84, 30}),
+    HelpButton({536, 314, 32, 26}),
 };
 
 constexpr std::string_view kHelp =

@@ -55,21 +55,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text14", .rect = {204, 252, 140, 26}, .flags = kDisabled},
     {.kind = Kind::TextBox, .name = "Text7", .rect = {16, 288, 556, 58}, .flags = kDisabled | kMultiLine},
 
-    {.kind = Kind::Button,
-     .name = "cmdOk",
-     .caption = "Ok",
-     .rect = {16, 362, 84, 30},
-     .toolTip = "Press to calculate your answer.",
-     .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 362, 84, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {200, 362, 84, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {292, 362, 84, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {540, 364, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({16, 362, 84, 30}, kOkTip),
+    ClearButton({108, 362, 84, 30}),
+    CancelButton({200, 362, 84, 30}),
+    PrintButton({292, 362, 84, 30}),
+    HelpButton({540, 364, 32, 26}),
 };
 
 // The inputs in reading order: weight and occurrence of each isotope.

@@ -31,21 +31,11 @@ constexpr ControlSpec kControls[] = {
      .caption = "This value is negative if energy is given off.",
      .rect = {16, 268, 408, 22}},
 
-    {.kind = Kind::Button,
-     .name = "cmdOk",
-     .caption = "Ok",
-     .rect = {16, 306, 84, 30},
-     .toolTip = "Press to calculate your answer.",
-     .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 306, 84, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {200, 306, 84, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {292, 306, 84, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {392, 308, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({16, 306, 84, 30}, kOkTip),
+    ClearButton({108, 306, 84, 30}),
+    CancelButton({200, 306, 84, 30}),
+    PrintButton({292, 306, 84, 30}),
+    HelpButton({392, 308, 32, 26}),
 };
 
 constexpr std::string_view kHelp =

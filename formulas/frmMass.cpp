@@ -28,11 +28,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text13", .rect = {236, 168, 160, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label22", .caption = "grams", .rect = {404, 172, 80, 22}},
     {.kind = Kind::TextBox, .name = "Text2", .rect = {20, 206, 648, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 252, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 252, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 252, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 252, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {636, 254, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
+    OkButton({20, 252, 80, 30}, kOkTip),
+    ClearButton({108, 252, 80, 30}),
+    CancelButton({196, 252, 80, 30}),
+    PrintButton({284, 252, 80, 30}),
+    HelpButton({636, 254, 32, 26}),
 };
 // clang-format on
 

@@ -57,11 +57,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "txtReactions4", .rect = {392, 192, 300, 30}, .flags = kBorder},
     {.kind = Kind::Label, .name = "txtReactions5", .rect = {392, 230, 300, 30}, .flags = kBorder},
     {.kind = Kind::Label, .name = "txtReactions6", .rect = {392, 268, 300, 30}, .flags = kBorder},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 362, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 362, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 362, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 362, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {660, 364, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
+    OkButton({20, 362, 80, 30}, kOkTip),
+    ClearButton({108, 362, 80, 30}),
+    CancelButton({196, 362, 80, 30}),
+    PrintButton({284, 362, 80, 30}),
+    HelpButton({660, 364, 32, 26}),
 };
 // clang-format on
 

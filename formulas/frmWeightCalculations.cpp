@@ -23,11 +23,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "Label3", .caption = "The number of molecules is ", .rect = {20, 238, 200, 22}},
     {.kind = Kind::TextBox, .name = "Text3", .rect = {224, 234, 232, 26}, .flags = kDisabled},
     {.kind = Kind::TextBox, .name = "Text4", .rect = {20, 270, 436, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 316, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 316, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 316, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 316, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {424, 318, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
+    OkButton({20, 316, 80, 30}, kOkTip),
+    ClearButton({108, 316, 80, 30}),
+    CancelButton({196, 316, 80, 30}),
+    PrintButton({284, 316, 80, 30}),
+    HelpButton({424, 318, 32, 26}),
 };
 // clang-format on
 

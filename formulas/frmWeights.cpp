@@ -28,11 +28,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "txtComposition", .rect = {420, 166, 80, 26}, .index = 5, .flags = kDisabled},
     {.kind = Kind::CheckBox, .name = "chk2", .caption = "Check for % Hydrate", .rect = {20, 206, 220, 24}},
     {.kind = Kind::TextBox, .name = "txtHydrate", .rect = {244, 204, 160, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 252, 80, 30}, .toolTip = "Press to calculate your answer.", .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 252, 80, 30}},
+    OkButton({20, 252, 80, 30}, kOkTip),
+    ClearButton({108, 252, 80, 30}),
     {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 252, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 252, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = {468, 254, 32, 26}, .toolTip = "Press for help", .flags = kSmall},
+    PrintButton({284, 252, 80, 30}),
+    HelpButton({468, 254, 32, 26}),
 };
 // clang-format on
 

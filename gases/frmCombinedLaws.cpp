@@ -31,16 +31,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text7", .rect = {280, 230, 120, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label7", .caption = "Liters", .rect = {406, 234, 56, 22}},
     {.kind = Kind::TextBox, .name = "Text6", .rect = {20, 268, 440, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 312, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 312, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 312, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 312, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {428, 314, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 312, 80, 30}),
+    ClearButton({108, 312, 80, 30}),
+    CancelButton({196, 312, 80, 30}),
+    PrintButton({284, 312, 80, 30}),
+    HelpButton({428, 314, 32, 26}),
 };
 
 constexpr std::string_view kInputs[] = {"Text1", "Text2", "Text3", "Text4", "Text5"};

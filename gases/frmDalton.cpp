@@ -41,16 +41,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text6", .rect = {320, 234, 110, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label7", .rect = {436, 238, 46, 22}},
     {.kind = Kind::TextBox, .name = "Text7", .rect = {20, 272, 460, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 316, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 316, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 316, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 316, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {448, 318, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 316, 80, 30}),
+    ClearButton({108, 316, 80, 30}),
+    CancelButton({196, 316, 80, 30}),
+    PrintButton({284, 316, 80, 30}),
+    HelpButton({448, 318, 32, 26}),
 };
 
 }  // namespace

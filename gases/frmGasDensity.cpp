@@ -42,16 +42,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text5", .rect = {304, 190, 150, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label7", .caption = "g / L", .rect = {460, 194, 60, 22}},
     {.kind = Kind::TextBox, .name = "Text6", .rect = {20, 230, 500, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 274, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 274, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 274, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 274, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {488, 276, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 274, 80, 30}),
+    ClearButton({108, 274, 80, 30}),
+    CancelButton({196, 274, 80, 30}),
+    PrintButton({284, 274, 80, 30}),
+    HelpButton({488, 276, 32, 26}),
 };
 
 }  // namespace

@@ -37,16 +37,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "Label6", .caption = "The diffusion rate is ", .rect = {20, 96, 300, 22}},
     {.kind = Kind::TextBox, .name = "Text5", .rect = {330, 92, 150, 26}, .flags = kDisabled},
     {.kind = Kind::TextBox, .name = "Text3", .rect = {20, 130, 460, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 174, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 174, 80, 30}},
+    OkButton({20, 174, 80, 30}),
+    ClearButton({108, 174, 80, 30}),
     {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 174, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 174, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {448, 176, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    PrintButton({284, 174, 80, 30}),
+    HelpButton({448, 176, 32, 26}),
 };
 
 }  // namespace

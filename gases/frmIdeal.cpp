@@ -44,16 +44,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text5", .rect = {290, 210, 150, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label7", .rect = {448, 214, 92, 22}},
     {.kind = Kind::TextBox, .name = "Text6", .rect = {20, 250, 520, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 294, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 294, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 294, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 294, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {508, 296, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 294, 80, 30}),
+    ClearButton({108, 294, 80, 30}),
+    CancelButton({196, 294, 80, 30}),
+    PrintButton({284, 294, 80, 30}),
+    HelpButton({508, 296, 32, 26}),
 };
 
 }  // namespace

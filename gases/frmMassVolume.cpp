@@ -40,16 +40,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text4", .rect = {320, 270, 110, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label8", .rect = {436, 274, 50, 22}},
     {.kind = Kind::TextBox, .name = "Text8", .rect = {20, 308, 460, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 352, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 352, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 352, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 352, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {448, 354, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 352, 80, 30}),
+    ClearButton({108, 352, 80, 30}),
+    CancelButton({196, 352, 80, 30}),
+    PrintButton({284, 352, 80, 30}),
+    HelpButton({448, 354, 32, 26}),
 };
 
 // The boxes that loading and clearing empty, in this order.

@@ -29,16 +29,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text3", .rect = {310, 162, 96, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label1", .rect = {412, 166, 50, 22}},
     {.kind = Kind::TextBox, .name = "Text4", .rect = {20, 200, 440, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 244, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 244, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 244, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 244, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {428, 246, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 244, 80, 30}),
+    ClearButton({108, 244, 80, 30}),
+    CancelButton({196, 244, 80, 30}),
+    PrintButton({284, 244, 80, 30}),
+    HelpButton({428, 246, 32, 26}),
 };
 
 }  // namespace

@@ -39,16 +39,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "Label7", .caption = "The vapor pressure is ", .rect = {20, 204, 300, 22}},
     {.kind = Kind::TextBox, .name = "Text6", .rect = {330, 200, 150, 26}, .flags = kDisabled},
     {.kind = Kind::TextBox, .name = "Text7", .rect = {20, 238, 460, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 282, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 282, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 282, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 282, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {448, 284, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 282, 80, 30}),
+    ClearButton({108, 282, 80, 30}),
+    CancelButton({196, 282, 80, 30}),
+    PrintButton({284, 282, 80, 30}),
+    HelpButton({448, 284, 32, 26}),
 };
 
 constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6", "Text7"};

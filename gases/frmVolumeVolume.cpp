@@ -46,16 +46,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::TextBox, .name = "Text13", .rect = {320, 158, 110, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label5", .rect = {436, 162, 44, 22}},
     {.kind = Kind::TextBox, .name = "Text4", .rect = {20, 196, 460, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 240, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 240, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 240, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 240, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {448, 242, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 240, 80, 30}),
+    ClearButton({108, 240, 80, 30}),
+    CancelButton({196, 240, 80, 30}),
+    PrintButton({284, 240, 80, 30}),
+    HelpButton({448, 242, 32, 26}),
 };
 
 constexpr std::string_view kBoxes[] = {"Text1", "Text2", "Text3", "Text13", "Text4"};

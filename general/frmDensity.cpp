@@ -36,16 +36,11 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "lblDensity3", .caption = "The mass is ", .rect = {20, 162, 180, 22}},
     {.kind = Kind::TextBox, .name = "txtDensity3", .rect = {204, 158, 216, 26}, .flags = kDisabled},
     {.kind = Kind::TextBox, .name = "Text2", .rect = {20, 196, 400, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 240, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 240, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 240, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 240, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {388, 242, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 240, 80, 30}),
+    ClearButton({108, 240, 80, 30}),
+    CancelButton({196, 240, 80, 30}),
+    PrintButton({284, 240, 80, 30}),
+    HelpButton({388, 242, 32, 26}),
 };
 
 }  // namespace

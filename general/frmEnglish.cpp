@@ -88,14 +88,9 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Button, .name = "cmdMToO", .caption = "Ounces - Milliliters", .rect = Conversion(2, 3)},
     {.kind = Kind::TextBox, .name = "Text2", .rect = {134, 256, 214, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label3", .rect = {356, 260, 160, 22}},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {20, 302, 80, 30}},
+    ClearButton({20, 302, 80, 30}),
     {.kind = Kind::Button, .name = "cmdCancel", .caption = "Close", .rect = {108, 302, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {484, 304, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    HelpButton({484, 304, 32, 26}),
 };
 
 }  // namespace

@@ -23,14 +23,9 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "Label2", .caption = "The answer is", .rect = {20, 112, 264, 22}},
     {.kind = Kind::TextBox, .name = "Text2", .rect = {288, 108, 168, 26}, .flags = kDisabled},
     {.kind = Kind::Label, .name = "Label3", .rect = {464, 112, 80, 22}},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {20, 154, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {108, 154, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {512, 156, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    ClearButton({20, 154, 80, 30}),
+    CancelButton({108, 154, 80, 30}),
+    HelpButton({512, 156, 32, 26}),
 };
 
 }  // namespace

@@ -142,16 +142,11 @@ constexpr ControlSpec kControls[] = {
      .caption = "Milligram",
      .rect = Unit(6),
      .container = "frmDistance2"},
-    {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = {20, 388, 80, 30}, .flags = kDefault},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {108, 388, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {196, 388, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {284, 388, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {508, 390, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    OkButton({20, 388, 80, 30}),
+    ClearButton({108, 388, 80, 30}),
+    CancelButton({196, 388, 80, 30}),
+    PrintButton({284, 388, 80, 30}),
+    HelpButton({508, 390, 32, 26}),
 };
 
 }  // namespace

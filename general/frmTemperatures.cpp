@@ -29,15 +29,10 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "Label2", .caption = "The new temperature is", .rect = {20, 150, 176, 22}},
     {.kind = Kind::TextBox, .name = "Text2", .rect = {200, 146, 196, 26}, .flags = kDisabled},
     {.kind = Kind::TextBox, .name = "Text3", .rect = {20, 184, 376, 26}, .flags = kDisabled},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {20, 228, 80, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {108, 228, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {196, 228, 80, 30}},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {364, 230, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    ClearButton({20, 228, 80, 30}),
+    CancelButton({108, 228, 80, 30}),
+    PrintButton({196, 228, 80, 30}),
+    HelpButton({364, 230, 32, 26}),
 };
 
 }  // namespace

@@ -47,14 +47,9 @@ constexpr ControlSpec kControls[] = {
     {.kind = Kind::Label, .name = "Label2", .caption = "The new time value is", .rect = {20, 152, 236, 22}},
     {.kind = Kind::TextBox, .name = "Text2", .rect = {260, 148, 196, 26}},
     {.kind = Kind::Label, .name = "Label3", .rect = {464, 152, 84, 22}},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {20, 194, 80, 30}},
+    ClearButton({20, 194, 80, 30}),
     {.kind = Kind::Button, .name = "cmdClose", .caption = "Cancel", .rect = {108, 194, 80, 30}, .flags = kCancel},
-    {.kind = Kind::Button,
-     .name = "cmdHelp",
-     .caption = "?",
-     .rect = {516, 196, 32, 26},
-     .toolTip = "Press for help",
-     .flags = kSmall},
+    HelpButton({516, 196, 32, 26}),
 };
 
 }  // namespace

@@ -11,9 +11,9 @@ namespace {
 constexpr ControlSpec kControls[] = {
     {.kind = Kind::Tree, .name = "TreeView1", .rect = {8, 8, 232, 404}, .toolTip = "Double click to open a topic."},
     {.kind = Kind::RichText, .name = "RTB1", .rect = {248, 8, 584, 404}, .flags = kMultiLine | kFixedPitch},
-    {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = {532, 424, 96, 30}},
-    {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = {634, 424, 96, 30}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {736, 424, 96, 30}, .flags = kCancel},
+    ClearButton({532, 424, 96, 30}),
+    PrintButton({634, 424, 96, 30}),
+    CancelButton({736, 424, 96, 30}),
     // The sources of the tree's pictures, never shown.
     {.kind = Kind::Image,
      .name = "Image1",

@@ -44,6 +44,27 @@ inline constexpr KeyFilter kFilterMinusPointE{"-.E", kTitle};
 inline constexpr KeyFilter kFilterSignsPointE{"+-.E", kTitle};
 inline constexpr KeyFilter kFilterPointEe{".Ee", kTitle};
 
+// The calculator's standard buttons, for its control table: Ok (the default
+// button, with its tool tip where the screen gives one), Clear, Cancel (the
+// cancel button), Print and the small "?" that explains the screen.
+inline constexpr std::string_view kOkTip = "Press to calculate your answer.";
+constexpr ControlSpec OkButton(Rect r, std::string_view toolTip = {}) {
+  return {.kind = Kind::Button, .name = "cmdOk", .caption = "Ok", .rect = r, .toolTip = toolTip, .flags = kDefault};
+}
+constexpr ControlSpec ClearButton(Rect r) {
+  return {.kind = Kind::Button, .name = "cmdClear", .caption = "Clear", .rect = r};
+}
+constexpr ControlSpec CancelButton(Rect r) {
+  return {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = r, .flags = kCancel};
+}
+constexpr ControlSpec PrintButton(Rect r) {
+  return {.kind = Kind::Button, .name = "cmdPrint", .caption = "Print", .rect = r};
+}
+constexpr ControlSpec HelpButton(Rect r) {
+  return {
+      .kind = Kind::Button, .name = "cmdHelp", .caption = "?", .rect = r, .toolTip = "Press for help", .flags = kSmall};
+}
+
 struct CalculatorSpec {
   std::string_view parent;      // shown again by cmdCancel; "" for none
   std::string_view designated;  // its Change enables cmdOk and cmdPrint; "" for none

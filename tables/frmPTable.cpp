@@ -17,7 +17,7 @@ constexpr int kHeight = 500;
 constexpr ControlSpec kControls[] = {
     {.kind = Kind::Chart, .name = "MSChart1", .rect = {12, 12, 696, 432}},
     {.kind = Kind::Button, .name = "cmdDescription", .caption = "Description", .rect = {474, 456, 112, 32}},
-    {.kind = Kind::Button, .name = "cmdCancel", .caption = "Cancel", .rect = {596, 456, 112, 32}, .flags = kCancel},
+    CancelButton({596, 456, 112, 32}),
 };
 
 constexpr std::string_view kCategoryTitle = "Atomic Number";
