@@ -1,17 +1,8 @@
 // Orvanta: starts the program with the Qt front end.
 
-#include <QApplication>
-
-#include "app/desktop.h"
-#include "app/registry.h"
-#include "qtui/qt_program.h"
+#include "app/launch.h"
 
 int main(int argc, char** argv) {
-  QApplication app(argc, argv);
-  QApplication::setApplicationName("Orvanta");
-  orv::app::PresentToDesktop();
-  QApplication::setQuitOnLastWindowClosed(false);
-
-  orv::qt::QtProgram orvanta(orv::AllScreens());
+  orv::app::Launch orvanta(argc, argv);
   return orvanta.Run();
 }

@@ -1,7 +1,7 @@
 // orvanta-bench: figures for scripts/bench, not a test.
-//   orvanta-bench startup   starts the program as main() does and quits once
-//                           the main screen has been painted; prints the
-//                           resident memory at that moment.
+//   orvanta-bench startup   starts the program through main()'s own start and
+//                           quits once the main screen has been painted;
+//                           prints the resident memory at that moment.
 //   orvanta-bench bare      the same for a bare Qt Widgets window.
 //   orvanta-bench sigfig N  times N presses of frmSigfig's Ok, headless.
 //   orvanta-bench group     times Enter on frmWeights with "(OH)2(SO4)", the
@@ -18,8 +18,8 @@
 #include <fstream>
 #include <string>
 
+#include "app/launch.h"
 #include "app/registry.h"
-#include "qtui/qt_program.h"
 #include "tests/support/fake_services.h"
 
 namespace {
@@ -58,27 +58,38 @@ class QuitAfterPaint : public QObject {
   bool done_ = false;
 };
 
-int Startup(int argc, char** argv, bool bare) {
-  g_start = std::chrono::steady_clock::now();
-  QApplication app(argc, argv);
-  std::printf("app_ms %.1f\n", Ms());
-  QApplication::setQuitOnLastWindowClosed(false);
-  // Watches every paint, so that the first one is seen however early it comes.
-  QuitAfterPaint quit(QStringLiteral("frmMain"));
-  app.installEventFilter(&quit);
+// Lets `quit` see every event of the application, and gives up with a
+// message if nothing has been painted in 20 s.
+void WatchForPaint(QuitAfterPaint& quit) {
+  QCoreApplication::instance()->installEventFilter(&quit);
   QTimer::singleShot(20000, [] {
     std::printf("timeout\n");
     QCoreApplication::exit(1);
   });
-  if (bare) {
-    QWidget window;
-    window.setObjectName(QStringLiteral("frmMain"));
-    window.resize(760, 490);
-    window.show();
-    return QApplication::exec();
-  }
-  orv::qt::QtProgram orvanta(orv::AllScreens());
+}
+
+int Startup(int argc, char** argv) {
+  g_start = std::chrono::steady_clock::now();
+  orv::app::Launch orvanta(argc, argv);
+  std::printf("app_ms %.1f\n", Ms());
+  // Watches every paint, so that the first one is seen however early it comes.
+  QuitAfterPaint quit(QStringLiteral("frmMain"));
+  WatchForPaint(quit);
   return orvanta.Run();
+}
+
+int Bare(int argc, char** argv) {
+  g_start = std::chrono::steady_clock::now();
+  QApplication app(argc, argv);
+  std::printf("app_ms %.1f\n", Ms());
+  QApplication::setQuitOnLastWindowClosed(false);
+  QuitAfterPaint quit(QStringLiteral("frmMain"));
+  WatchForPaint(quit);
+  QWidget window;
+  window.setObjectName(QStringLiteral("frmMain"));
+  window.resize(760, 490);
+  window.show();
+  return QApplication::exec();
 }
 
 int Sigfig(long presses) {
@@ -117,8 +128,8 @@ int Group(const char* argv0) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (argc >= 2 && std::strcmp(argv[1], "startup") == 0) return Startup(argc, argv, false);
-  if (argc >= 2 && std::strcmp(argv[1], "bare") == 0) return Startup(argc, argv, true);
+  if (argc >= 2 && std::strcmp(argv[1], "startup") == 0) return Startup(argc, argv);
+  if (argc >= 2 && std::strcmp(argv[1], "bare") == 0) return Bare(argc, argv);
   if (argc >= 2 && std::strcmp(argv[1], "sigfig") == 0) return Sigfig(argc >= 3 ? std::stol(argv[2]) : 100000);
   if (argc >= 2 && std::strcmp(argv[1], "group") == 0) return Group("/proc/self/exe");
   std::fprintf(stderr, "usage: orvanta-bench startup|bare|sigfig [N]|group\n");
