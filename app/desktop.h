@@ -10,8 +10,10 @@ namespace orv::app {
 // The installed desktop entry is this name with ".desktop" appended.
 inline constexpr const char* kDesktopFileName = "example.halveron.Orvanta";
 
-// The emblem's pixel sizes built into the program.
-inline constexpr int kIconSizes[] = {16, 22, 24, 32, 48, 64, 128, 256};
+// The emblem's pixel sizes built into the program as the window icon. Every
+// window hands each size to the window manager when it is made, so the
+// largest, which only a launcher shows, stays with the desktop entry's icons.
+inline constexpr int kIconSizes[] = {16, 22, 24, 32, 48, 64, 128};
 
 // The emblem in every built-in size.
 QIcon ApplicationIcon();
