@@ -3,12 +3,14 @@
 //                           quits once the main screen has been painted;
 //                           prints the resident memory at that moment.
 //   orvanta-bench bare      the same for a bare Qt Widgets window.
+//   orvanta-bench text      the same for a bare window with one label.
 //   orvanta-bench sigfig N  times N presses of frmSigfig's Ok, headless.
 //   orvanta-bench group     times Enter on frmWeights with "(OH)2(SO4)", the
 //                           group that repeats until the weight stack
 //                           overflows, headless, over the database beside it.
 
 #include <QApplication>
+#include <QLabel>
 #include <QTimer>
 #include <QWidget>
 #include <chrono>
@@ -78,7 +80,10 @@ int Startup(int argc, char** argv) {
   return orvanta.Run();
 }
 
-int Bare(int argc, char** argv) {
+// A bare window; with `text`, holding one label of text, so that the cost
+// any window with text pays (the font configuration, the font database, a
+// font, shaping and drawing) can be told from the program's own.
+int Bare(int argc, char** argv, bool text) {
   g_start = std::chrono::steady_clock::now();
   QApplication app(argc, argv);
   std::printf("app_ms %.1f\n", Ms());
@@ -88,6 +93,7 @@ int Bare(int argc, char** argv) {
   QWidget window;
   window.setObjectName(QStringLiteral("frmMain"));
   window.resize(760, 490);
+  if (text) new QLabel(QStringLiteral("Halveron Software - Orvanta"), &window);
   window.show();
   return QApplication::exec();
 }
@@ -129,9 +135,10 @@ int Group(const char* argv0) {
 
 int main(int argc, char** argv) {
   if (argc >= 2 && std::strcmp(argv[1], "startup") == 0) return Startup(argc, argv);
-  if (argc >= 2 && std::strcmp(argv[1], "bare") == 0) return Bare(argc, argv);
+  if (argc >= 2 && std::strcmp(argv[1], "bare") == 0) return Bare(argc, argv, false);
+  if (argc >= 2 && std::strcmp(argv[1], "text") == 0) return Bare(argc, argv, true);
   if (argc >= 2 && std::strcmp(argv[1], "sigfig") == 0) return Sigfig(argc >= 3 ? std::stol(argv[2]) : 100000);
   if (argc >= 2 && std::strcmp(argv[1], "group") == 0) return Group("/proc/self/exe");
-  std::fprintf(stderr, "usage: orvanta-bench startup|bare|sigfig [N]|group\n");
+  std::fprintf(stderr, "usage: orvanta-bench startup|bare|text|sigfig [N]|group\n");
   return 2;
 }
